@@ -1,0 +1,47 @@
+# One helper for every layer: a static library with its headers as a verified file set.
+#
+#   app_module(NAME SOURCES … HEADERS … DEPENDS … [PRIVATE_DEPENDS …])
+#
+# Without SOURCES the module is an interface library. HEADERS are relative to Sources/Tocca, the one include root; each of
+# them is compiled alone with just this module's dependencies by the target all_verify_interface_header_sets.
+
+add_library(tocca_options INTERFACE)
+target_compile_options(tocca_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual)
+if(TOCCA_WERROR)
+    target_compile_options(tocca_options INTERFACE -Werror)
+endif()
+if(TOCCA_SANITIZE)
+    target_compile_options(tocca_options INTERFACE -fsanitize=${TOCCA_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(tocca_options INTERFACE -fsanitize=${TOCCA_SANITIZE})
+endif()
+find_package(Threads REQUIRED)
+target_link_libraries(tocca_options INTERFACE Threads::Threads)
+
+function(app_module name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    set(root ${PROJECT_SOURCE_DIR}/Sources/Tocca)
+    list(TRANSFORM ARG_HEADERS PREPEND ${root}/)
+    if(ARG_SOURCES)
+        list(TRANSFORM ARG_SOURCES PREPEND ${root}/)
+        add_library(${name} STATIC ${ARG_SOURCES})
+        set(scope PUBLIC)
+        target_link_libraries(${name} PRIVATE ${ARG_PRIVATE_DEPENDS})
+    else()
+        add_library(${name} INTERFACE)
+        set(scope INTERFACE)
+    endif()
+    target_link_libraries(${name} ${scope} tocca_options ${ARG_DEPENDS})
+    target_sources(${name} ${scope} FILE_SET HEADERS BASE_DIRS ${root} FILES ${ARG_HEADERS})
+endfunction()
+
+# app_test(NAME SOURCES … DEPENDS … [LABELS …] [PROPERTIES …]): a GoogleTest program whose cases ctest knows one by one.
+function(app_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LABELS;PROPERTIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} tocca_options GTest::gmock GTest::gtest_main)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/Tests)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+        PROPERTIES TIMEOUT 120 LABELS "${ARG_LABELS}" ${ARG_PROPERTIES})
+endfunction()
