@@ -1,0 +1,2 @@
+include(Platform/Linux/Audio/Audio.cmake OPTIONAL)
+include(Platform/Linux/Desktop.cmake OPTIONAL)
