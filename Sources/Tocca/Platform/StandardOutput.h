@@ -4,7 +4,7 @@
 
 namespace tocca::platform {
 
-/// The program's diagnostic lines. Threads: any but capture and render; lines of several threads do not mix.
+/// The program's diagnostic lines. Threads: any but render, and never while an event is being delivered; lines do not mix.
 class StandardOutput {
 public:
     virtual ~StandardOutput() = default;

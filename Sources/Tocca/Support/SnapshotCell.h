@@ -50,7 +50,7 @@ public:
             }
             if (slot.version.load(std::memory_order_relaxed) == version) {
                 T value;
-                std::memcpy(&value, words.data(), sizeof(T));
+                std::memcpy(static_cast<void*>(&value), words.data(), sizeof(T));
                 return value;
             }
         }

@@ -1,0 +1,21 @@
+app_module(tocca_memory
+    SOURCES
+        Platform/Memory/MemoryAudioPlayers.cpp
+        Platform/Memory/MemoryEventTaps.cpp
+        Platform/Memory/MemoryFiles.cpp
+        Platform/Memory/MemoryHost.cpp
+        Platform/Memory/MemoryQueues.cpp
+        Platform/Memory/MemoryThreads.cpp
+        Platform/Memory/MemoryTimers.cpp
+        Platform/Memory/VirtualTime.cpp
+    HEADERS
+        Platform/Memory/MemoryAudioPlayers.h
+        Platform/Memory/MemoryEventTaps.h
+        Platform/Memory/MemoryFiles.h
+        Platform/Memory/MemoryHost.h
+        Platform/Memory/MemoryQueues.h
+        Platform/Memory/MemoryServices.h
+        Platform/Memory/MemoryThreads.h
+        Platform/Memory/MemoryTimers.h
+        Platform/Memory/VirtualTime.h
+    DEPENDS tocca_platform)

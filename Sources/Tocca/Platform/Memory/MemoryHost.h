@@ -1,0 +1,80 @@
+#pragma once
+
+#include "Platform/Host.h"
+#include "Platform/Memory/MemoryAudioPlayers.h"
+#include "Platform/Memory/MemoryEventTaps.h"
+#include "Platform/Memory/MemoryFiles.h"
+#include "Platform/Memory/MemoryQueues.h"
+#include "Platform/Memory/MemoryServices.h"
+#include "Platform/Memory/MemoryThreads.h"
+#include "Platform/Memory/MemoryTimers.h"
+#include "Platform/Memory/VirtualTime.h"
+
+namespace tocca::platform::memory {
+
+/// A complete computer in memory: deterministic, in virtual time, with every service of the platform.
+///
+/// Threads: the thread that makes it plays the main thread, and the others when their turn comes.
+class MemoryHost {
+public:
+    MemoryHost();
+
+    /// Lets a controller be built on this machine: `AudioEngine engine(host, …)`.
+    operator Host&() noexcept { return host_; } // NOLINT(google-explicit-constructor)
+
+    /// Moves time on by `seconds`; main queue, timers, threads and audio queue each run at their own instant.
+    void advance(double seconds) { time_.advance(seconds); }
+
+    /// Runs everything that is due now without moving time.
+    void settle() { time_.settle(); }
+
+    [[nodiscard]] VirtualTime& clock() noexcept { return time_; }
+
+    [[nodiscard]] MemoryMainQueue& mainQueue() noexcept { return mainQueue_; }
+
+    [[nodiscard]] MemorySerialQueues& serialQueues() noexcept { return serialQueues_; }
+
+    [[nodiscard]] MemoryThreads& threads() noexcept { return threads_; }
+
+    [[nodiscard]] MemoryTimers& timers() noexcept { return timers_; }
+
+    [[nodiscard]] MemoryEventTaps& eventTaps() noexcept { return eventTaps_; }
+
+    [[nodiscard]] MemoryLocalMonitors& localMonitors() noexcept { return localMonitors_; }
+
+    [[nodiscard]] MemoryTrustQuery& trustQuery() noexcept { return trustQuery_; }
+
+    [[nodiscard]] MemoryAudioPlayers& audioPlayers() noexcept { return audioPlayers_; }
+
+    [[nodiscard]] MemoryHaptics& haptics() noexcept { return haptics_; }
+
+    [[nodiscard]] MemoryWorkspace& workspace() noexcept { return workspace_; }
+
+    [[nodiscard]] MemoryDirectories& directories() noexcept { return directories_; }
+
+    [[nodiscard]] MemoryFiles& files() noexcept { return files_; }
+
+    [[nodiscard]] MemoryRandom& random() noexcept { return random_; }
+
+    [[nodiscard]] MemoryStandardOutput& standardOutput() noexcept { return standardOutput_; }
+
+private:
+    VirtualTime time_;
+    MemoryThreads threads_;
+    MemoryMainQueue mainQueue_;
+    MemorySerialQueues serialQueues_;
+    MemoryTimers timers_;
+    MemoryEventTaps eventTaps_;
+    MemoryLocalMonitors localMonitors_;
+    MemoryTrustQuery trustQuery_;
+    MemoryAudioPlayers audioPlayers_;
+    MemoryHaptics haptics_;
+    MemoryWorkspace workspace_;
+    MemoryDirectories directories_;
+    MemoryFiles files_;
+    MemoryRandom random_;
+    MemoryStandardOutput standardOutput_;
+    Host host_;
+};
+
+} // namespace tocca::platform::memory
