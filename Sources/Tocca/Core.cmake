@@ -1,0 +1,27 @@
+app_module(tocca_core
+    SOURCES
+        Audio/AcousticCatalogues.cpp
+        Audio/AudioEngine.cpp
+        Audio/PeripheralSynthesis.cpp
+        Audio/SoundPackLoader.cpp
+        Audio/SoundProfile.cpp
+        Audio/SoundSlot.cpp
+        Audio/StrokeShaping.cpp
+        Keyboard/KeyboardMonitor.cpp
+        Keyboard/TypingSpeed.cpp
+    HEADERS
+        Audio/AcousticCatalogues.h
+        Audio/AudioEngine.h
+        Audio/AudioSettings.h
+        Audio/PeripheralSynthesis.h
+        Audio/PlayerPool.h
+        Audio/RandomDraws.h
+        Audio/SoundPackInfo.h
+        Audio/SoundPackLoader.h
+        Audio/SoundProfile.h
+        Audio/SoundSlot.h
+        Audio/StrokeShaping.h
+        Keyboard/Debouncer.h
+        Keyboard/KeyboardMonitor.h
+        Keyboard/TypingSpeed.h
+    DEPENDS tocca_platform)
