@@ -1,0 +1,46 @@
+#include "TestKit/Process.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <system_error>
+
+namespace tocca::testkit {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(Process, IsReadLineByLineUntilItsEnd)
+{
+    Process process(
+        {"sh", "-c", "echo one; echo two >&2; echo \"$GREETING one${HOME+ home}\"; read unused; exit 3"},
+        {{"GREETING", "hello"}, {"HOME", std::nullopt}});
+    EXPECT_TRUE(process.waitForLine("one", 10s, 2));
+    EXPECT_EQ(process.output(), "one\ntwo\nhello one\n");
+    EXPECT_FALSE(process.waitForLine("three", 10s)) << "the output has ended";
+    EXPECT_EQ(process.waitForExit(10s), 3);
+}
+
+TEST(Process, ReportsTheSignalThatEndedIt)
+{
+    Process process({"sleep", "60"});
+    EXPECT_FALSE(process.waitForLine("anything", 10ms));
+    EXPECT_EQ(process.waitForExit(10ms), std::nullopt);
+    EXPECT_TRUE(process.isRunning());
+    process.signal(SIGTERM);
+    EXPECT_EQ(process.waitForExit(10s), -SIGTERM);
+}
+
+TEST(Process, ReadsMoreThanAPipeHoldsWhileItWaitsForTheEnd)
+{
+    Process process({"sh", "-c", "head -c 300000 /dev/zero | tr '\\0' x; echo; echo end"});
+    EXPECT_EQ(process.waitForExit(10s), 0);
+    EXPECT_EQ(process.countLines("end"), 1);
+}
+
+TEST(Process, ThrowsForAProgramThatDoesNotExist)
+{
+    EXPECT_THROW(Process({"/nonexistent/program"}), std::system_error);
+}
+
+} // namespace
+} // namespace tocca::testkit
