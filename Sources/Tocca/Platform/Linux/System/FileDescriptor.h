@@ -1,0 +1,40 @@
+#pragma once
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+/// Owns a file descriptor and closes it. Threads: any, one at a time.
+class FileDescriptor {
+public:
+    FileDescriptor() noexcept = default;
+
+    /// Takes `descriptor` over; a negative one stands for none.
+    explicit FileDescriptor(int descriptor) noexcept
+        : descriptor_(descriptor)
+    {}
+
+    FileDescriptor(FileDescriptor&& other) noexcept
+        : descriptor_(std::exchange(other.descriptor_, -1))
+    {}
+
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
+    {
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
+    }
+
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+
+    ~FileDescriptor();
+
+    [[nodiscard]] int get() const noexcept { return descriptor_; }
+
+    [[nodiscard]] bool isOpen() const noexcept { return descriptor_ >= 0; }
+
+private:
+    int descriptor_ = -1;
+};
+
+} // namespace tocca::platform::linux

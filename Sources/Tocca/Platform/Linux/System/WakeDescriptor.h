@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Platform/Linux/System/FileDescriptor.h"
+
+namespace tocca::platform::linux {
+
+/// A descriptor that turns readable when somebody asks for it: how other threads interrupt a `poll`.
+///
+/// Threads: `wake`: any. `drain`: the thread that polls.
+/// Errors: aborts when the process has no descriptor left.
+class WakeDescriptor {
+public:
+    WakeDescriptor();
+
+    /// Makes the descriptor readable until it is drained. Real-time: one system call that never waits.
+    void wake() noexcept;
+
+    void drain() noexcept;
+
+    [[nodiscard]] int fd() const noexcept { return descriptor_.get(); }
+
+private:
+    FileDescriptor descriptor_;
+};
+
+} // namespace tocca::platform::linux
