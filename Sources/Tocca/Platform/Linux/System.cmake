@@ -1,0 +1,36 @@
+# What the kernel and the C library alone provide; builds without any desktop library.
+app_module(tocca_linux_system
+    SOURCES
+        Platform/Linux/System/Doorbell.cpp
+        Platform/Linux/System/FileDescriptor.cpp
+        Platform/Linux/System/LinuxClock.cpp
+        Platform/Linux/System/LinuxDirectories.cpp
+        Platform/Linux/System/LinuxFiles.cpp
+        Platform/Linux/System/LinuxLocalMonitors.cpp
+        Platform/Linux/System/LinuxMainQueue.cpp
+        Platform/Linux/System/LinuxRandom.cpp
+        Platform/Linux/System/LinuxSerialQueues.cpp
+        Platform/Linux/System/LinuxStandardOutput.cpp
+        Platform/Linux/System/LinuxThreads.cpp
+        Platform/Linux/System/LinuxTimers.cpp
+        Platform/Linux/System/RunLoop.cpp
+        Platform/Linux/System/Scheduling.cpp
+        Platform/Linux/System/WakeDescriptor.cpp
+    HEADERS
+        Platform/Linux/System/Doorbell.h
+        Platform/Linux/System/FileDescriptor.h
+        Platform/Linux/System/LinuxClock.h
+        Platform/Linux/System/LinuxDirectories.h
+        Platform/Linux/System/LinuxFiles.h
+        Platform/Linux/System/LinuxHaptics.h
+        Platform/Linux/System/LinuxLocalMonitors.h
+        Platform/Linux/System/LinuxMainQueue.h
+        Platform/Linux/System/LinuxRandom.h
+        Platform/Linux/System/LinuxSerialQueues.h
+        Platform/Linux/System/LinuxStandardOutput.h
+        Platform/Linux/System/LinuxThreads.h
+        Platform/Linux/System/LinuxTimers.h
+        Platform/Linux/System/RunLoop.h
+        Platform/Linux/System/Scheduling.h
+        Platform/Linux/System/WakeDescriptor.h
+    DEPENDS tocca_platform)

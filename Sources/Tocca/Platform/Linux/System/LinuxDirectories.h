@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Platform/Directories.h"
+
+namespace tocca::platform::linux {
+
+/// Directories as a build tree, an installation and the XDG base directory rules place them.
+class LinuxDirectories : public Directories {
+public:
+    LinuxDirectories();
+
+    /// As if the program were in `programDirectory`.
+    explicit LinuxDirectories(std::filesystem::path programDirectory);
+
+    /// `../Resources` (a build tree) or `../share/tocca` (an installation), seen from the program.
+    [[nodiscard]] std::optional<std::filesystem::path> resources() const override;
+
+    [[nodiscard]] std::filesystem::path currentWorkingDirectory() const override;
+
+    /// `$XDG_DATA_HOME`, or `~/.local/share` when that is not an absolute path.
+    [[nodiscard]] std::optional<std::filesystem::path> applicationSupport() const override;
+
+private:
+    std::filesystem::path programDirectory_;
+};
+
+} // namespace tocca::platform::linux
