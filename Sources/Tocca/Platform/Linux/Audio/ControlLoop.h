@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+
+struct pw_loop;
+struct pw_thread_loop;
+struct spa_source;
+
+namespace tocca::platform::linux {
+
+/// The thread on which the sound servers are looked for, connected to and watched.
+///
+/// Threads: `ControlLoop` itself: main. What runs on it (events, timers, watches): control, unless said otherwise.
+/// Lifetime: outlives every event, timer and watch made on it; those end on the control thread or after `stop`.
+class ControlLoop {
+public:
+    ControlLoop();
+    ~ControlLoop();
+    ControlLoop(const ControlLoop&) = delete;
+    ControlLoop& operator=(const ControlLoop&) = delete;
+
+    void start();
+
+    /// Ends the thread after the running callback; calling it again does nothing.
+    void stop();
+
+    [[nodiscard]] pw_loop* native() const noexcept;
+
+private:
+    pw_thread_loop* loop_;
+};
+
+/// A call that any thread may ask the control thread for.
+///
+/// Several requests before it runs are one.
+class ControlEvent {
+public:
+    ControlEvent(ControlLoop& loop, std::function<void()> call);
+    ~ControlEvent();
+    ControlEvent(const ControlEvent&) = delete;
+    ControlEvent& operator=(const ControlEvent&) = delete;
+
+    /// Asks for the call. Threads: any. Never waits.
+    void signal() noexcept;
+
+private:
+    ControlLoop& loop_;
+    std::function<void()> call_;
+    spa_source* source_;
+};
+
+/// A timer on the control thread. Units: seconds.
+class ControlTimer {
+public:
+    ControlTimer(ControlLoop& loop, std::function<void()> call);
+    ~ControlTimer();
+    ControlTimer(const ControlTimer&) = delete;
+    ControlTimer& operator=(const ControlTimer&) = delete;
+
+    /// Calls once, `delay` from now, instead of whatever was scheduled before.
+    void once(double delay);
+
+    /// Calls every `interval`, instead of whatever was scheduled before.
+    void every(double interval);
+
+    void cancel();
+
+private:
+    void schedule(double delay, double interval);
+
+    ControlLoop& loop_;
+    std::function<void()> call_;
+    spa_source* source_;
+};
+
+/// Calls on the control thread whenever a file descriptor is readable. Lifetime: closes the descriptor.
+class ControlWatch {
+public:
+    ControlWatch(ControlLoop& loop, int descriptor, std::function<void()> call);
+    ~ControlWatch();
+    ControlWatch(const ControlWatch&) = delete;
+    ControlWatch& operator=(const ControlWatch&) = delete;
+
+private:
+    ControlLoop& loop_;
+    std::function<void()> call_;
+    spa_source* source_;
+};
+
+} // namespace tocca::platform::linux

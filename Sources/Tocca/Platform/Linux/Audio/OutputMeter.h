@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Player/RenderSource.h"
+#include "Support/Realtime.h"
+
+#include <atomic>
+#include <cstdint>
+#include <span>
+
+namespace tocca::platform::linux {
+
+/// Seconds of CLOCK_MONOTONIC, the clock of the sound servers' cycles. Threads: any. Real-time: wait-free.
+[[nodiscard]] double monotonicSeconds() noexcept REALTIME;
+
+/// Calls the render source for a sound server and keeps count of what happened.
+///
+/// Threads: `render`, `restart`-side counting: render. Everything else: any.
+/// Real-time: every member is wait-free.
+class OutputMeter {
+public:
+    /// Renders one block with the thread's role set and denormal numbers switched off, as nothing audible is that small.
+    void render(player::RenderSource& source, std::span<float> frames,
+                const player::RenderCycle& cycle) noexcept REALTIME;
+
+    /// Compares the server's `position` at the beginning of this cycle with where the last one ended, and counts the cycles
+    /// in between as missed. Units: frames of the server's clock. Threads: render.
+    void countCycle(std::uint64_t position, std::uint64_t duration) noexcept REALTIME;
+
+    /// Counts one drop-out that the server itself has reported.
+    void countDropOut() noexcept REALTIME;
+
+    /// Makes the next cycle the first of a new series: what lies before it was not missed.
+    void restart() noexcept;
+
+    void setSampleRate(double sampleRate) noexcept;
+
+    [[nodiscard]] double sampleRate() const noexcept { return sampleRate_.load(std::memory_order_relaxed); }
+
+    [[nodiscard]] int quantum() const noexcept { return quantum_.load(std::memory_order_relaxed); }
+
+    [[nodiscard]] std::uint64_t cycles() const noexcept { return cycles_.load(std::memory_order_relaxed); }
+
+    /// How often sound was interrupted, however long each time.
+    [[nodiscard]] std::uint64_t dropOuts() const noexcept
+    {
+        return dropOuts_.load(std::memory_order_relaxed);
+    }
+
+    [[nodiscard]] std::uint64_t missedCycles() const noexcept
+    {
+        return missedCycles_.load(std::memory_order_relaxed);
+    }
+
+private:
+    std::atomic<double> sampleRate_{48000.0};    // control -> any
+    std::atomic<int> quantum_{0};                // render -> any
+    std::atomic<std::uint64_t> cycles_{0};       // render -> any
+    std::atomic<std::uint64_t> dropOuts_{0};     // render -> any
+    std::atomic<std::uint64_t> missedCycles_{0}; // render -> any
+    std::atomic<bool> restarts_{true};           // control -> render
+    std::uint64_t expectedPosition_ = 0;         // render
+};
+
+} // namespace tocca::platform::linux
