@@ -1,0 +1,38 @@
+#include "Linux/PolledMachine.h"
+#include "Linux/TemporaryDirectory.h"
+#include "Platform/FilesConformance.h"
+#include "Platform/Linux/System/LinuxFiles.h"
+#include "Platform/MainQueueAndTimersConformance.h"
+#include "Platform/SerialQueueConformance.h"
+
+namespace tocca::platform {
+
+namespace {
+
+class DiskMachine {
+public:
+    Files& files() { return files_; }
+
+    [[nodiscard]] std::filesystem::path root() const { return directory_.path(); }
+
+    static void makeDirectory(const std::filesystem::path& path) { std::filesystem::create_directory(path); }
+
+    static void write(const std::filesystem::path& path, const std::string& text)
+    {
+        linux::TemporaryDirectory::write(path, text);
+    }
+
+    static void makeSpecial(const std::filesystem::path& path) { linux::TemporaryDirectory::makeFifo(path); }
+
+private:
+    linux::TemporaryDirectory directory_;
+    linux::LinuxFiles files_;
+};
+
+} // namespace
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, SerialQueueConformance, linux::PolledMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, MainQueueAndTimersConformance, linux::PolledMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, FilesConformance, DiskMachine);
+
+} // namespace tocca::platform
