@@ -1,0 +1,158 @@
+#include "Audio/SoundPackLoader.h"
+#include "Platform/Memory/MemoryHost.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+namespace tocca::audio {
+namespace {
+
+using platform::memory::MemoryHost;
+using platform::memory::textOf;
+
+struct SoundPackLoaderTest : testing::Test {
+    MemoryHost host;
+    SoundPackLoader loader{host};
+    ThreadRoleScope role{ThreadRole::AudioQueue};
+
+    std::string sampled(KeyCategory category, KeyStrokeAction action)
+    {
+        const SharedBytes bytes = loader.sample("/packs/p", "custom_p", category, action);
+        return bytes ? textOf(*bytes) : "";
+    }
+};
+
+TEST(SoundSlot, SortsFileNamesByTheirWords)
+{
+    struct Row {
+        const char* name;
+        const char* slot;
+    };
+
+    constexpr Row kRows[] = {
+        // NOLINT(modernize-avoid-c-arrays)
+        {.name = "Press_Standard.wav", .slot = "press_standard"},
+        {.name = "Press_Standard.WAV", .slot = ""},
+        {.name = "press_standard.flac", .slot = ""},
+        {.name = ".wav", .slot = "press_standard"},
+        {.name = "wav", .slot = ""},
+        {.name = "backspace.wav", .slot = "press_space"},
+        {.name = "delete_release.mp3", .slot = "release_back"},
+        {.name = "BACK.ogg", .slot = "press_back"},
+        {.name = "enter.ogg", .slot = "press_enter"},
+        {.name = "space-enter-release.mp3", .slot = "release_space"},
+        {.name = "release.wav", .slot = "release_standard"},
+        {.name = "tocca_meta.json", .slot = ""},
+    };
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.name);
+        const auto slot = SoundSlot::fromFileName(row.name);
+        EXPECT_EQ(slot ? slot->key() : "", row.slot);
+    }
+}
+
+TEST_F(SoundPackLoaderTest, FallsBackAlongTheChainButNeverFromAPressToARelease)
+{
+    host.files().write("/packs/p/press_standard.wav", "ps");
+    host.files().write("/packs/p/press_space.wav", "pp");
+    host.files().write("/packs/p/release_standard.wav", "rs");
+    host.files().write("/packs/p/release_enter.wav", "re");
+
+    using enum KeyCategory::Value;
+    EXPECT_EQ(sampled(standard, KeyStrokeAction::down), "ps");
+    EXPECT_EQ(sampled(modifier, KeyStrokeAction::down), "ps");
+    EXPECT_EQ(sampled(spacebar, KeyStrokeAction::down), "pp");
+    EXPECT_EQ(sampled(enter, KeyStrokeAction::down), "ps");
+    EXPECT_EQ(sampled(backspace, KeyStrokeAction::down), "ps");
+    EXPECT_EQ(sampled(spacebar, KeyStrokeAction::up), "rs");
+    EXPECT_EQ(sampled(enter, KeyStrokeAction::up), "re");
+}
+
+TEST_F(SoundPackLoaderTest, PlaysOneSidedPacksAsFarAsTheyGo)
+{
+    host.files().write("/packs/p/release.wav", "r");
+    EXPECT_EQ(sampled(KeyCategory::standard, KeyStrokeAction::down), "");
+    EXPECT_EQ(sampled(KeyCategory::spacebar, KeyStrokeAction::up), "r");
+
+    host.files().write("/packs/q/press_standard.wav", "p");
+    EXPECT_EQ(textOf(*loader.sample("/packs/q", "custom_q", KeyCategory::enter, KeyStrokeAction::up)), "p");
+}
+
+TEST_F(SoundPackLoaderTest, DrawsEveryVariant)
+{
+    for (const char* name : {"a.wav", "b.wav", "c.mp3"}) {
+        host.files().write(std::filesystem::path("/packs/p") / name, name);
+    }
+    std::set<std::string> drawn;
+    for (int i = 0; i < 100; ++i) {
+        drawn.insert(sampled(KeyCategory::standard, KeyStrokeAction::down));
+    }
+    EXPECT_EQ(drawn, (std::set<std::string>{"a.wav", "b.wav", "c.mp3"}));
+}
+
+TEST_F(SoundPackLoaderTest, KeepsWhatItHasListedAndRetriesWhatItCouldNot)
+{
+    EXPECT_EQ(sampled(KeyCategory::standard, KeyStrokeAction::down), "");
+    host.files().write("/packs/p/a.wav", "first");
+    EXPECT_EQ(sampled(KeyCategory::standard, KeyStrokeAction::down), "first")
+        << "a folder that came later is found";
+
+    host.files().write("/packs/p/a.wav", "second");
+    const int accesses = host.files().accessCount();
+    EXPECT_EQ(sampled(KeyCategory::standard, KeyStrokeAction::down), "first");
+    EXPECT_EQ(textOf(*loader.sample("/elsewhere", "custom_p", KeyCategory::enter, KeyStrokeAction::down)),
+              "first")
+        << "the first folder of an id stays its folder";
+    EXPECT_EQ(host.files().accessCount(), accesses) << "a loaded pack touches no disk";
+
+    host.files().makeDirectory("/packs/empty");
+    loader.loadPack("custom_empty", "/packs/empty");
+    host.files().write("/packs/empty/a.wav", "late");
+    EXPECT_EQ(loader.sample("/packs/empty", "custom_empty", KeyCategory::standard, KeyStrokeAction::down),
+              nullptr)
+        << "an empty folder is remembered as such";
+}
+
+TEST_F(SoundPackLoaderTest, LeavesOutWhatItCannotRead)
+{
+    host.files().write("/packs/p/good.wav", "good");
+    host.files().write("/packs/p/secret.wav", "secret");
+    host.files().makeUnreadable("/packs/p/secret.wav");
+    host.files().makeSpecial("/packs/p/fifo.wav");
+    host.files().makeDirectory("/packs/p/folder.wav");
+    host.files().write("/packs/p/huge.wav", std::string(SoundPackLoader::kLargestFile + 1, 'x'));
+
+    const PackTable& table = loader.loadPack("custom_p", "/packs/p");
+    EXPECT_EQ(table[SoundSlot(KeyStrokeAction::down, SoundSlot::standard).index()].size(), 1U);
+    EXPECT_EQ(sampled(KeyCategory::standard, KeyStrokeAction::down), "good");
+}
+
+TEST_F(SoundPackLoaderTest, LooksForTheBuiltInPacksInAFixedOrderOnEveryCall)
+{
+    const std::filesystem::path places[] = {
+        // NOLINT(modernize-avoid-c-arrays)
+        "/home/user/.local/share/Tocca/SoundPacks",
+        "/home/user/work/Resources/SoundPacks",
+        "/home/user/work/Sources/Tocca/Resources/SoundPacks",
+        "/app/resources/Resources/SoundPacks",
+        "/app/resources/SoundPacks",
+    };
+    EXPECT_EQ(loader.builtInSoundPacksDirectory(), std::nullopt);
+    EXPECT_EQ(loader.sample(SwitchType::nkCream, KeyCategory::standard, KeyStrokeAction::down), nullptr);
+    for (const auto& place : places) {
+        host.files().write(place / "mx-blue/press.wav", place.string());
+        EXPECT_EQ(loader.builtInSoundPacksDirectory(), place);
+    }
+    const auto bytes = loader.sample(SwitchType::cherryMXBlue, KeyCategory::standard, KeyStrokeAction::down);
+    ASSERT_NE(bytes, nullptr);
+    EXPECT_EQ(textOf(*bytes), "/app/resources/SoundPacks");
+
+    host.directories().resourcesPath.reset();
+    host.directories().supportPath.reset();
+    EXPECT_EQ(loader.builtInSoundPacksDirectory(), places[2]);
+}
+
+} // namespace
+} // namespace tocca::audio
