@@ -11,11 +11,9 @@ pkg_check_modules(soxr REQUIRED IMPORTED_TARGET soxr)
 # What depends on the processor is chosen here, by file, so that no source needs a condition.
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$")
     set(processor_sources Player/X86/BestSincKernel.cpp Player/X86/DenormalGuard.cpp Player/X86/SincKernelAvx2.cpp)
-    set(processor_headers Player/X86/SincKernelAvx2.h)
     set_source_files_properties(Player/X86/SincKernelAvx2.cpp PROPERTIES COMPILE_OPTIONS "-mavx2;-mfma")
 else()
     set(processor_sources Player/Portable/BestSincKernel.cpp Player/Portable/DenormalGuard.cpp)
-    set(processor_headers)
 endif()
 
 app_module(tocca_player
@@ -63,6 +61,6 @@ app_module(tocca_player
         Player/VoiceExchange.h
         Player/VoiceList.h
         Player/VoiceRequest.h
-        ${processor_headers}
+        Player/X86/SincKernelAvx2.h
     DEPENDS tocca_player_interface tocca_platform tocca_support
     PRIVATE_DEPENDS PkgConfig::sndfile PkgConfig::soxr)
