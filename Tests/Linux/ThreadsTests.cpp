@@ -104,12 +104,13 @@ TEST(RunLoop, ServesASourceUntilItIsDetachedAndThenEndsTheThread)
 {
     LinuxThreads threads;
     WakeDescriptor input;
+    const int descriptor = input.fd();
     std::unique_ptr<LoopSource> source;
     std::atomic<int> calls{0};
     std::atomic<bool> isAttached{false};
     const auto held = std::make_shared<int>();
     auto thread = threads.start({.name = "loop"}, [&, held] {
-        source = RunLoop::current()->attach(input.fd(), [&calls, &input, held] {
+        source = RunLoop::current()->attach(&descriptor, [&calls, &input, held] {
             input.drain();
             ++calls;
             calls.notify_all();
@@ -137,13 +138,14 @@ TEST(RunLoop, DetachingWaitsForTheRunningCallback)
 {
     LinuxThreads threads;
     WakeDescriptor input;
+    const int descriptor = input.fd();
     std::unique_ptr<LoopSource> source;
     std::atomic<bool> isInside{false};
     std::atomic<bool> mayLeave{false};
     std::atomic<bool> hasLeft{false};
     input.wake();
     const auto thread = threads.start({.name = "loop"}, [&] {
-        source = RunLoop::current()->attach(input.fd(), [&] {
+        source = RunLoop::current()->attach(&descriptor, [&] {
             input.drain();
             isInside = true;
             isInside.notify_all();
@@ -164,10 +166,11 @@ TEST(RunLoop, StopEndsItWithSourcesLeftWhichMayOutliveIt)
 {
     LinuxThreads threads;
     WakeDescriptor input;
+    const int descriptor = input.fd();
     std::unique_ptr<LoopSource> source;
     std::atomic<bool> isAttached{false};
     auto thread = threads.start({.name = "loop"}, [&] {
-        source = RunLoop::current()->attach(input.fd(), [] {});
+        source = RunLoop::current()->attach(&descriptor, [] {});
         isAttached = true;
         isAttached.notify_all();
     });
@@ -189,22 +192,23 @@ TEST(RunLoop, CallbacksMayDetachAnySourceAndAttachNewOnes)
 {
     const auto loop = std::make_shared<RunLoop>();
     std::array<WakeDescriptor, 3> inputs;
+    const std::array<int, 3> descriptors{inputs[0].fd(), inputs[1].fd(), inputs[2].fd()};
     std::vector<std::unique_ptr<LoopSource>> sources(3);
     std::string calls;
     loop->run([&] {
         inputs[0].wake();
         inputs[1].wake();
-        sources[0] = loop->attach(inputs[0].fd(), [&] {
+        sources[0] = loop->attach(&descriptors[0], [&] {
             calls += 'a';
             sources[1].reset(); // readable in the same turn
-            sources[2] = loop->attach(inputs[2].fd(), [&] {
+            sources[2] = loop->attach(&descriptors[2], [&] {
                 calls += 'c';
                 sources[2].reset();
             });
             inputs[2].wake();
             sources[0].reset();
         });
-        sources[1] = loop->attach(inputs[1].fd(), [&] { calls += 'b'; });
+        sources[1] = loop->attach(&descriptors[1], [&] { calls += 'b'; });
     });
     EXPECT_EQ(calls, "ac");
 }

@@ -16,7 +16,7 @@ std::shared_ptr<RunLoop> RunLoop::current()
     return loopOfThisThread != nullptr ? loopOfThisThread->shared_from_this() : nullptr;
 }
 
-std::unique_ptr<LoopSource> RunLoop::attach(int descriptor, std::function<void()> ready)
+std::unique_ptr<LoopSource> RunLoop::attach(const int* descriptor, std::function<void()> ready)
 {
     auto record = std::make_shared<Record>();
     record->descriptor = descriptor;
@@ -63,7 +63,7 @@ void RunLoop::waitAndCall()
     polled_.clear();
     polled_.push_back({.fd = wake_.fd(), .events = POLLIN, .revents = 0});
     for (const auto& record : records_) {
-        polled_.push_back({.fd = record->descriptor, .events = POLLIN, .revents = 0});
+        polled_.push_back({.fd = *record->descriptor, .events = POLLIN, .revents = 0});
     }
     if (::poll(polled_.data(), polled_.size(), -1) < 0) {
         return; // interrupted by a signal
@@ -74,11 +74,7 @@ void RunLoop::waitAndCall()
     const std::size_t count = polled_.size() - 1; // a callback may attach further sources
     for (std::size_t i = 0; i < count; ++i) {
         Record& record = *records_[i];
-        const short events = polled_[i + 1].revents;
-        if ((events & POLLNVAL) != 0) {
-            record.descriptor = -1; // a closed descriptor would be ready for ever
-        }
-        if (events == 0 || record.isLeaving.load(std::memory_order_acquire)) {
+        if (polled_[i + 1].revents == 0 || record.isLeaving.load(std::memory_order_acquire)) {
             continue;
         }
         if (isStopping_.load(std::memory_order_acquire)) {
@@ -118,11 +114,6 @@ LoopSource::LoopSource(std::shared_ptr<RunLoop> loop, std::shared_ptr<RunLoop::R
 LoopSource::~LoopSource()
 {
     loop_->detach(*record_);
-}
-
-void LoopSource::watch(int descriptor) noexcept
-{
-    record_->descriptor = descriptor;
 }
 
 } // namespace tocca::platform::linux

@@ -22,8 +22,10 @@ public:
     /// The loop of the calling thread, or null when it has none.
     [[nodiscard]] static std::shared_ptr<RunLoop> current();
 
-    /// Calls `ready` whenever `descriptor` is readable or broken. A negative descriptor is never ready.
-    [[nodiscard]] std::unique_ptr<LoopSource> attach(int descriptor, std::function<void()> ready);
+    /// Calls `ready` whenever `*descriptor` is readable or broken; a negative one never is.
+    ///
+    /// The descriptor is looked up before every wait, so that `ready` may exchange it, and must live as long as `ready`.
+    [[nodiscard]] std::unique_ptr<LoopSource> attach(const int* descriptor, std::function<void()> ready);
 
     /// Makes this the calling thread's loop for as long as `body` and then the sources it attached last.
     void run(const std::function<void()>& body);
@@ -35,7 +37,7 @@ private:
     friend class LoopSource;
 
     struct Record {
-        int descriptor = -1; // loop
+        const int* descriptor = nullptr; // loop
         std::function<void()> ready;
         std::atomic<bool> isLeaving{false}; // any -> loop
         std::atomic<bool> isGone{false};    // loop -> any
@@ -61,9 +63,6 @@ public:
     LoopSource(const LoopSource&) = delete;
     LoopSource& operator=(const LoopSource&) = delete;
     ~LoopSource();
-
-    /// Waits for another descriptor from now on. Threads: the loop's own.
-    void watch(int descriptor) noexcept;
 
 private:
     std::shared_ptr<RunLoop> loop_;
