@@ -1,0 +1,26 @@
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(TOCCA_XCB REQUIRED IMPORTED_TARGET xcb xcb-xinput xcb-xkb)
+
+# What hears the session's keys on X11; knows no toolkit.
+app_module(tocca_linux_capture
+    SOURCES
+        Platform/Linux/X11/KeyRoles.cpp
+        Platform/Linux/X11/KeyboardState.cpp
+        Platform/Linux/X11/WaylandSession.cpp
+        Platform/Linux/X11/X11TrustQuery.cpp
+        Platform/Linux/X11/XInputCapture.cpp
+        Platform/Linux/X11/XInputConnection.cpp
+        Platform/Linux/X11/XInputEventTaps.cpp
+    HEADERS
+        Platform/Linux/X11/KeyMap.h
+        Platform/Linux/X11/KeyRoles.h
+        Platform/Linux/X11/KeyboardState.h
+        Platform/Linux/X11/ServerTime.h
+        Platform/Linux/X11/WaylandSession.h
+        Platform/Linux/X11/X11TrustQuery.h
+        Platform/Linux/X11/XInputCapture.h
+        Platform/Linux/X11/XInputConnection.h
+        Platform/Linux/X11/XInputEventTaps.h
+        Platform/Linux/X11/XReply.h
+        Platform/Linux/X11/Xkb.h
+    DEPENDS tocca_linux_system PkgConfig::TOCCA_XCB)

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Platform/InputEvent.h"
+#include "Platform/Linux/X11/KeyRoles.h"
+
+#include <bitset>
+#include <cstdint>
+#include <optional>
+
+namespace tocca::platform::linux {
+
+/// An event whose time is still to be filled in.
+struct KeyTransition {
+    EventType type = EventType::KeyDown;
+    InputEvent event;
+};
+
+/// Turns what the server says about keys and Caps Lock into the platform's transitions.
+///
+/// Threads: one at a time. Real-time: every member but `setRoles` is wait-free.
+class KeyboardState {
+public:
+    using Keys = std::bitset<KeyRoles::kKeys>; // by X key code
+
+    void setRoles(const KeyRoles& roles) noexcept;
+
+    /// `isRepeat` says that the server knows it for a repeat; so does a press of a key that is down.
+    [[nodiscard]] std::optional<KeyTransition> press(std::uint8_t key, bool isRepeat) noexcept;
+
+    /// Reports nothing for a key whose press was not seen.
+    [[nodiscard]] std::optional<KeyTransition> release(std::uint8_t key) noexcept;
+
+    [[nodiscard]] std::optional<KeyTransition> setLocked(bool isLocked) noexcept;
+
+    /// Takes over which keys are down after a time in which nothing was heard. Releases and a changed lock are reported;
+    /// keys that went down meanwhile are not.
+    template <class Report>
+    void resynchronize(const Keys& down, bool isLocked, Report report)
+    {
+        const Keys released = held_ & ~down;
+        for (std::size_t key = 0; key < released.size(); ++key) {
+            if (released.test(key)) {
+                reportIf(release(static_cast<std::uint8_t>(key)), report);
+            }
+        }
+        held_ = down;
+        updateFlags();
+        reportIf(setLocked(isLocked), report);
+    }
+
+private:
+    static constexpr std::uint16_t kUsualLockKey = 57;
+
+    template <class Report>
+    static void reportIf(const std::optional<KeyTransition>& transition, Report& report)
+    {
+        if (transition) {
+            report(*transition);
+        }
+    }
+
+    void updateFlags() noexcept;
+    [[nodiscard]] KeyTransition flagsChanged(std::uint16_t keyCode) const noexcept;
+
+    KeyRoles roles_;
+    Keys held_;
+    bool isLocked_ = false;
+    std::uint64_t flags_ = 0;
+    std::uint16_t lockKeyCode_ = kUsualLockKey; // of the lock key that was pressed last
+};
+
+} // namespace tocca::platform::linux
