@@ -1,0 +1,145 @@
+#include "EndToEnd/Likeness.h"
+#include "EndToEnd/ProgramAtWork.h"
+#include "TestKit/Now.h"
+
+#include <gmock/gmock.h>
+#include <linux/input-event-codes.h>
+#include <thread>
+
+namespace tocca::endtoend {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::AllOf;
+using testing::Gt;
+using testing::Lt;
+
+constexpr testkit::Rhythm kSlowly{.shortest = 0.3, .longest = 0.4};
+
+class KeySounds : public ProgramAtWork {};
+
+TEST_F(KeySounds, EachOfTwoHundredQuickStrokesIsHeardOnce)
+{
+    constexpr int kRounds = 5;
+    std::vector<std::uint16_t> keys;
+    for (int round = 0; round < kRounds; ++round) {
+        const auto forty = testkit::ordinaryKeys();
+        const auto begin = keys.insert(keys.end(), forty.begin(), forty.end());
+        std::shuffle(begin, keys.end(), random);
+    }
+    const testkit::Hearing hearing = typeAndHear(keys, {});
+    EXPECT_EQ(hearing.heard(), keys.size());
+    EXPECT_EQ(hearing.others.size(), 0U);
+    EXPECT_EQ(recorder->recording().gaps, 0);
+}
+
+TEST_F(KeySounds, KeysSoundFromWhereTheyAre)
+{
+    struct Row {
+        const char* name;
+        std::uint16_t key;
+        double least;
+        double most;
+    };
+
+    const std::vector<Row> rows{
+        {.name = "A", .key = KEY_A, .least = -0.9, .most = -0.4},
+        {.name = "S", .key = KEY_S, .least = -0.5, .most = -0.1},
+        {.name = "G", .key = KEY_G, .least = -0.05, .most = 0.05},
+        {.name = "Space", .key = KEY_SPACE, .least = -0.05, .most = 0.05},
+        {.name = "K", .key = KEY_K, .least = 0.1, .most = 0.5},
+        {.name = "L", .key = KEY_L, .least = 0.4, .most = 0.9},
+        {.name = "Enter", .key = KEY_ENTER, .least = 0.4, .most = 0.9},
+    };
+    std::vector<std::uint16_t> keys;
+    for (const Row& row : rows) {
+        keys.push_back(row.key);
+    }
+    const testkit::Hearing hearing = typeAndHear(keys, kSlowly);
+    EXPECT_EQ(hearing.others.size(), 0U);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        SCOPED_TRACE(rows[i].name);
+        ASSERT_TRUE(hearing.ofStroke[i].has_value());
+        EXPECT_THAT(hearing.ofStroke[i]->onset.balance(), AllOf(Gt(rows[i].least), Lt(rows[i].most)));
+    }
+}
+
+TEST_F(KeySounds, EachKindOfKeySoundsWithItsOwnRecordings)
+{
+    struct Row {
+        const char* slot;
+        std::uint16_t key;
+    };
+
+    // Each twice, at the usual rate and, quickly after another stroke, at that of a burst.
+    const std::vector<Row> rows{
+        {.slot = "press_space", .key = KEY_SPACE},    {.slot = "press_standard", .key = KEY_G},
+        {.slot = "press_back", .key = KEY_BACKSPACE}, {.slot = "press_enter", .key = KEY_ENTER},
+        {.slot = "press_space", .key = KEY_SPACE},    {.slot = "press_standard", .key = KEY_H},
+    };
+    const std::vector<PackRecording> pack = readPack(HOLY_PANDA_DIRECTORY);
+    ASSERT_FALSE(pack.empty()) << HOLY_PANDA_DIRECTORY;
+    std::vector<std::uint16_t> keys;
+    for (const Row& row : rows) {
+        keys.push_back(row.key);
+    }
+    const testkit::Hearing hearing = typeAndHear(keys, kSlowly);
+    const testkit::Recording recording = recorder->recording();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        SCOPED_TRACE(rows[i].slot);
+        ASSERT_TRUE(hearing.ofStroke[i].has_value());
+        const double time = hearing.ofStroke[i]->time;
+        const Likeness most = mostLike(recording.between(time - 0.003, time + 0.060), pack);
+        EXPECT_EQ(most.slot, rows[i].slot);
+        EXPECT_GT(most.correlation, 0.98);
+        EXPECT_THAT(most.rate, AllOf(Gt(0.975), Lt(1.025)));
+    }
+}
+
+TEST_F(KeySounds, AHeldKeySoundsOnce)
+{
+    const double from = keyboard.press(KEY_J);
+    std::this_thread::sleep_for(1500ms); // long enough for the server to repeat the key many times
+    keyboard.release(KEY_J);
+    EXPECT_EQ(soundsSince(from).size(), 1U);
+}
+
+TEST_F(KeySounds, CapsLockSoundsWhenItTurnsOnAndNotWhenItTurnsOff)
+{
+    constexpr std::array<std::uint16_t, 2> kOnAndOff{KEY_CAPSLOCK, KEY_CAPSLOCK};
+    const testkit::Hearing hearing = typeAndHear(kOnAndOff, kSlowly);
+    EXPECT_TRUE(hearing.ofStroke[0].has_value());
+    EXPECT_FALSE(hearing.ofStroke[1].has_value());
+    EXPECT_EQ(hearing.others.size(), 0U);
+}
+
+TEST_F(KeySounds, AModifierSoundsOnceAndSoDoesTheKeyThatItModifies)
+{
+    const double from = keyboard.press(KEY_LEFTSHIFT);
+    std::this_thread::sleep_for(150ms);
+    keyboard.press(KEY_L);
+    std::this_thread::sleep_for(150ms);
+    keyboard.release(KEY_L);
+    keyboard.release(KEY_LEFTSHIFT);
+    std::this_thread::sleep_for(300ms);
+    const std::vector<testkit::Sound> sounds = soundsSince(from);
+    ASSERT_EQ(sounds.size(), 2U);
+    EXPECT_LT(sounds[0].onset.balance(), -0.4);
+    EXPECT_GT(sounds[1].onset.balance(), 0.4);
+}
+
+TEST_F(KeySounds, MouseButtonsClickWhenPressed)
+{
+    const double from = keyboard.pressButton(1);
+    std::this_thread::sleep_for(200ms);
+    keyboard.releaseButton(1);
+    std::this_thread::sleep_for(200ms);
+    keyboard.pressButton(3);
+    std::this_thread::sleep_for(200ms);
+    keyboard.releaseButton(3);
+    std::this_thread::sleep_for(200ms);
+    EXPECT_EQ(soundsSince(from).size(), 2U);
+}
+
+} // namespace
+} // namespace tocca::endtoend

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "TestKit/Hearing.h"
+#include "TestKit/MonitorRecorder.h"
+#include "TestKit/Process.h"
+#include "TestKit/Typist.h"
+#include "TestKit/XTestKeyboard.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <span>
+#include <vector>
+
+namespace tocca::endtoend {
+
+/// What the program prints when it hears the session.
+inline constexpr const char* kListens =
+    "✅ Global dedicated keyboard & peripheral tap thread running permanently!";
+
+/// How long anything may take on a busy computer before it counts as failed.
+inline constexpr std::chrono::seconds kDeadline{20};
+
+/// The program under test, started with changes to its environment.
+[[nodiscard]] testkit::Process startProgram(const testkit::Process::Environment& changes = {});
+
+/// Runs the session's own sound server commands, "stop-sound" and "start-sound".
+void soundServer(const char* command);
+
+/// The program at work in this session, hands on its keyboard and ears at its sink.
+class ProgramAtWork : public testing::Test {
+protected:
+    /// Waits until the program listens and its first key has been heard.
+    void SetUp() override;
+
+    /// Presses a key until it is heard; false when that takes too long.
+    [[nodiscard]] bool becomesAudible();
+
+    /// Types `keys` and returns what was heard of them, waiting for the end of the last sound.
+    [[nodiscard]] testkit::Hearing typeAndHear(std::span<const std::uint16_t> keys,
+                                               const testkit::Rhythm& rhythm);
+
+    /// What is heard from `from` (seconds) to now, waiting until now has been recorded.
+    [[nodiscard]] std::vector<testkit::Sound> soundsSince(double from);
+
+    /// Begins to record anew, which the end of a sound server makes necessary.
+    void recordAgain();
+
+    testkit::Process program{startProgram()};
+    std::unique_ptr<testkit::MonitorRecorder> recorder;
+    testkit::XTestKeyboard keyboard;
+    std::mt19937 random{20}; // NOLINT(cert-msc51-cpp): the same typing each time
+};
+
+} // namespace tocca::endtoend
