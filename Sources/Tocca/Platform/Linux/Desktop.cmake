@@ -24,3 +24,20 @@ app_module(tocca_linux_capture
         Platform/Linux/X11/XReply.h
         Platform/Linux/X11/Xkb.h
     DEPENDS tocca_linux_system PkgConfig::TOCCA_XCB)
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus)
+
+# The whole desktop on the toolkit's event loop.
+app_module(tocca_linux_desktop
+    SOURCES
+        Platform/Linux/LinuxHost.cpp
+        Platform/Linux/Toolkit/LinuxWorkspace.cpp
+        Platform/Linux/Toolkit/RealtimeKit.cpp
+        Platform/Linux/Toolkit/ToolkitLoop.cpp
+    HEADERS
+        Platform/Linux/LinuxHost.h
+        Platform/Linux/Toolkit/LinuxWorkspace.h
+        Platform/Linux/Toolkit/RealtimeKit.h
+        Platform/Linux/Toolkit/ToolkitLoop.h
+    DEPENDS tocca_linux_capture Qt6::Core
+    PRIVATE_DEPENDS Qt6::DBus)
