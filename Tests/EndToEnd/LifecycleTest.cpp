@@ -57,7 +57,7 @@ TEST_F(Lifecycle, IsHeardAgainAfterTheSoundServerWasKilledAndStartedAnew)
 
     server.bringBack();
     recordAgain();
-    EXPECT_TRUE(becomesAudible()) << program.output();
+    EXPECT_TRUE(testkit::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
     expectCleanEnd(program);
 }
 

@@ -2,11 +2,7 @@
 
 #include "TestKit/Now.h"
 
-#include <array>
-#include <cstdlib>
-#include <linux/input-event-codes.h>
 #include <stdexcept>
-#include <thread>
 
 namespace tocca::endtoend {
 
@@ -15,7 +11,6 @@ namespace {
 using testkit::now;
 
 constexpr std::chrono::seconds kCapacity{300};
-constexpr std::chrono::milliseconds kTail{300}; // longer than any sound
 
 } // namespace
 
@@ -36,7 +31,7 @@ void ProgramAtWork::SetUp()
 {
     ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
     recordAgain();
-    ASSERT_TRUE(becomesAudible()) << program.output();
+    ASSERT_TRUE(testkit::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
 }
 
 void ProgramAtWork::recordAgain()
@@ -45,25 +40,10 @@ void ProgramAtWork::recordAgain()
     recorder = std::make_unique<testkit::MonitorRecorder>(kCapacity, kDeadline);
 }
 
-bool ProgramAtWork::becomesAudible()
-{
-    constexpr std::array<std::uint16_t, 1> kKey{KEY_G};
-    const double end = now() + std::chrono::duration<double>(kDeadline).count();
-    while (now() < end) {
-        if (typeAndHear(kKey, {}).heard() > 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
 testkit::Hearing ProgramAtWork::typeAndHear(std::span<const std::uint16_t> keys,
                                             const testkit::Rhythm& rhythm)
 {
-    const std::vector<testkit::Stroke> strokes = testkit::type(keyboard, keys, rhythm, random);
-    std::this_thread::sleep_for(kTail);
-    EXPECT_TRUE(recorder->waitUntil(now(), kDeadline));
-    return testkit::hear(strokes, recorder->recording());
+    return testkit::typeAndHear(keyboard, *recorder, keys, rhythm, random, kDeadline);
 }
 
 std::vector<testkit::Sound> ProgramAtWork::soundsSince(double from)

@@ -3,7 +3,7 @@
 #include "TestKit/Hearing.h"
 #include "TestKit/MonitorRecorder.h"
 #include "TestKit/Process.h"
-#include "TestKit/Typist.h"
+#include "TestKit/Rehearsal.h"
 #include "TestKit/XTestKeyboard.h"
 
 #include <gtest/gtest.h>
@@ -31,9 +31,6 @@ class ProgramAtWork : public testing::Test {
 protected:
     /// Waits until the program listens and its first key has been heard.
     void SetUp() override;
-
-    /// Presses a key until it is heard; false when that takes too long.
-    [[nodiscard]] bool becomesAudible();
 
     /// Types `keys` and returns what was heard of them, waiting for the end of the last sound.
     [[nodiscard]] testkit::Hearing typeAndHear(std::span<const std::uint16_t> keys,

@@ -52,16 +52,17 @@ std::span<const float> Recording::between(double begin, double end) const noexce
     return std::span(samples).subspan(2 * first, 2 * (last - first));
 }
 
-bool writeWav(const Recording& recording, const std::string& path)
+bool writeWav(std::span<const float> stereo, double sampleRate, const std::string& path)
 {
     constexpr std::uint16_t kPcm = 1;
     constexpr std::uint16_t kChannels = 2;
-    constexpr std::uint16_t kFrameBytes = 4;
-    constexpr std::uint16_t kSampleBits = 16;
+    constexpr std::uint16_t kSampleBytes = 2;
+    constexpr std::uint16_t kFrameBytes = kChannels * kSampleBytes;
+    constexpr std::uint16_t kSampleBits = 8 * kSampleBytes;
     constexpr std::uint32_t kFormatBytes = 16;
     constexpr std::uint32_t kBytesBeforeData = 36;
-    const auto rate = static_cast<std::uint32_t>(std::lround(recording.sampleRate));
-    const auto dataBytes = static_cast<std::uint32_t>(recording.frames() * kFrameBytes);
+    const auto rate = static_cast<std::uint32_t>(std::lround(sampleRate));
+    const auto dataBytes = static_cast<std::uint32_t>(stereo.size() * kSampleBytes);
 
     std::ofstream file(path, std::ios::binary);
     file << "RIFF";
@@ -76,7 +77,7 @@ bool writeWav(const Recording& recording, const std::string& path)
     put(file, kSampleBits);
     file << "data";
     put(file, dataBytes);
-    for (const float sample : recording.samples) {
+    for (const float sample : stereo) {
         put(file, static_cast<std::int16_t>(std::lround(std::clamp(sample, -1.0F, 1.0F) * 32767.0F)));
     }
     file.close();

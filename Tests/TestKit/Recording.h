@@ -34,7 +34,7 @@ private:
     [[nodiscard]] std::size_t frameAt(double time) const noexcept;
 };
 
-/// Writes `recording` as 16-bit stereo WAV. Errors: false when the file cannot be written.
-[[nodiscard]] bool writeWav(const Recording& recording, const std::string& path);
+/// Writes interleaved stereo as 16-bit WAV. Errors: false when the file cannot be written.
+[[nodiscard]] bool writeWav(std::span<const float> stereo, double sampleRate, const std::string& path);
 
 } // namespace tocca::testkit
