@@ -44,7 +44,8 @@ TEST_F(PipeWireSound, FollowsASinkThatGoesAndComesBack)
     startOutput();
     ASSERT_TRUE(plays(SoundServer::PipeWire));
     runInSession("pactl unload-module module-null-sink");
-    ASSERT_TRUE(plays(SoundServer::None));
+    ASSERT_TRUE(eventually([this] { return output->state().server != SoundServer::PipeWire; }))
+        << "what the session manager puts in its place is a dummy";
     runInSession("pactl load-module module-null-sink sink_name=speaker >/dev/null");
     EXPECT_TRUE(plays(SoundServer::PipeWire));
     EXPECT_TRUE(isHeard());

@@ -3,62 +3,8 @@
 #include "Support/ThreadRole.h"
 
 #include <ctime>
-#if defined(__SSE2__)
-#include <immintrin.h>
-#endif
 
 namespace tocca::platform::linux {
-
-namespace {
-
-/// Flushes denormal numbers to zero for a scope.
-class FlushDenormals {
-public:
-#if defined(__SSE2__)
-    FlushDenormals() noexcept
-        : previous_(_mm_getcsr())
-    {
-        _mm_setcsr(previous_ | kFlushToZero | kDenormalsAreZero);
-    }
-
-    ~FlushDenormals()
-    {
-        _mm_setcsr(previous_);
-    }
-
-private:
-    static constexpr unsigned kFlushToZero = 0x8000;
-    static constexpr unsigned kDenormalsAreZero = 0x0040;
-    const unsigned previous_;
-#elif defined(__aarch64__)
-    FlushDenormals() noexcept
-    {
-        asm volatile("mrs %0, fpcr" : "=r"(previous_));
-        asm volatile("msr fpcr, %0" : : "r"(previous_ | kFlushToZero));
-    }
-
-    ~FlushDenormals()
-    {
-        asm volatile("msr fpcr, %0" : : "r"(previous_));
-    }
-
-private:
-    static constexpr std::uint64_t kFlushToZero = std::uint64_t{1} << 24;
-    std::uint64_t previous_ = 0;
-#else
-    FlushDenormals() noexcept
-    {}
-
-    ~FlushDenormals()
-    {}
-#endif
-
-public:
-    FlushDenormals(const FlushDenormals&) = delete;
-    FlushDenormals& operator=(const FlushDenormals&) = delete;
-};
-
-} // namespace
 
 double monotonicSeconds() noexcept
 {
@@ -71,7 +17,6 @@ void OutputMeter::render(player::RenderSource& source, std::span<float> frames,
                          const player::RenderCycle& cycle) noexcept
 {
     const ThreadRoleScope role(ThreadRole::Render);
-    const FlushDenormals flush;
     source.render(frames, cycle);
     quantum_.store(cycle.quantum, std::memory_order_relaxed);
     cycles_.fetch_add(1, std::memory_order_relaxed);

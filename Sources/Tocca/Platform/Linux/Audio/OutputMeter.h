@@ -14,11 +14,11 @@ namespace tocca::platform::linux {
 
 /// Calls the render source for a sound server and keeps count of what happened.
 ///
-/// Threads: `render`, `restart`-side counting: render. Everything else: any.
+/// Threads: what renders and counts: render. Everything else: any.
 /// Real-time: every member is wait-free.
 class OutputMeter {
 public:
-    /// Renders one block with the thread's role set and denormal numbers switched off, as nothing audible is that small.
+    /// Renders one block with the thread's role set, whichever thread of the server's library it is.
     void render(player::RenderSource& source, std::span<float> frames,
                 const player::RenderCycle& cycle) noexcept REALTIME;
 

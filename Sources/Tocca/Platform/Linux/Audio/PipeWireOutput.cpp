@@ -1,9 +1,11 @@
 #include "Platform/Linux/Audio/PipeWireOutput.h"
 
 #include <pipewire/pipewire.h>
+#include <pthread.h>
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <utility>
@@ -30,14 +32,34 @@ const char* configurationName()
     return version < kObsoleteFrom ? "client-rt.conf" : "client.conf";
 }
 
+pw_context* makeContext(pw_loop* loop)
+{
+    pw_context* const context =
+        pw_context_new(loop, pw_properties_new(PW_KEY_CONFIG_NAME, configurationName(), nullptr), 0);
+    if (context != nullptr) {
+        // On the data thread, but before it has anything to render.
+        pw_data_loop_invoke(
+            pw_context_get_data_loop(context),
+            [](spa_loop*, bool, std::uint32_t, const void*, std::size_t, void*) {
+                return pthread_setname_np(pthread_self(), "tocca-render");
+            },
+            0, nullptr, 0, false, nullptr);
+    }
+    return context;
+}
+
 bool isSink(const char* type, const spa_dict* properties)
 {
     if (std::strcmp(type, PW_TYPE_INTERFACE_Node) != 0 || properties == nullptr) {
         return false;
     }
-    const char* const mediaClass = spa_dict_lookup(properties, PW_KEY_MEDIA_CLASS);
-    return mediaClass != nullptr &&
-           (std::strcmp(mediaClass, "Audio/Sink") == 0 || std::strcmp(mediaClass, "Audio/Duplex") == 0);
+    const auto is = [properties](const char* key, const char* value) {
+        const char* const actual = spa_dict_lookup(properties, key);
+        return actual != nullptr && std::strcmp(actual, value) == 0;
+    };
+    // The session manager makes a dummy of this name when there is nothing to play to.
+    return (is(PW_KEY_MEDIA_CLASS, "Audio/Sink") || is(PW_KEY_MEDIA_CLASS, "Audio/Duplex")) &&
+           !is(PW_KEY_NODE_NAME, "auto_null");
 }
 
 } // namespace
@@ -162,8 +184,7 @@ void PipeWireOutput::connect()
     disconnect();
     Connection& connection = *connection_;
     if (connection.context == nullptr) {
-        connection.context = pw_context_new(
-            loop_.native(), pw_properties_new(PW_KEY_CONFIG_NAME, configurationName(), nullptr), 0);
+        connection.context = makeContext(loop_.native());
     }
     if (connection.context != nullptr) {
         connection.core = pw_context_connect(

@@ -288,10 +288,8 @@ void PulseOutput::write(std::size_t bytes) noexcept
             return;
         }
         const std::size_t frames = std::min(size, bytes) / kFrameBytes;
-        const auto count = static_cast<int>(frames);
-        const player::RenderCycle cycle{.beginsAt = clock_.begin(monotonicSeconds(), count, sampleRate),
-                                        .sampleRate = sampleRate,
-                                        .quantum = count};
+        const player::RenderCycle cycle =
+            clock_.begin(monotonicSeconds(), static_cast<int>(frames), sampleRate);
         meter_.render(source_, {static_cast<float*>(data), frames * 2}, cycle);
         pa_stream_write(stream_, data, frames * kFrameBytes, nullptr, 0, PA_SEEK_RELATIVE);
         bytes -= frames * kFrameBytes;
