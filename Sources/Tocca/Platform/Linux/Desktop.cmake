@@ -33,11 +33,14 @@ app_module(tocca_linux_desktop
         Platform/Linux/LinuxHost.cpp
         Platform/Linux/Toolkit/LinuxWorkspace.cpp
         Platform/Linux/Toolkit/RealtimeKit.cpp
+        Platform/Linux/Toolkit/TerminationSignals.cpp
         Platform/Linux/Toolkit/ToolkitLoop.cpp
     HEADERS
         Platform/Linux/LinuxHost.h
         Platform/Linux/Toolkit/LinuxWorkspace.h
         Platform/Linux/Toolkit/RealtimeKit.h
+        Platform/Linux/Toolkit/TerminationSignals.h
         Platform/Linux/Toolkit/ToolkitLoop.h
     DEPENDS tocca_linux_capture Qt6::Core
     PRIVATE_DEPENDS Qt6::DBus)
+target_compile_definitions(tocca_linux_desktop PUBLIC QT_NO_KEYWORDS)
