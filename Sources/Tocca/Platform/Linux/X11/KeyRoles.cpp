@@ -92,8 +92,8 @@ KeyRoles::KeyRoles(const Layout& layout) noexcept
     : KeyRoles()
 {
     for (std::size_t key = kFirstKey; key < kKeys; ++key) {
-        // Some layouts leave a key its name and take the lock out of its effect.
-        roles_[key].isLock = isLockKeysym(layout.keysyms[key]) && (layout.modifiers[key] & LockMask) != 0;
+        // Some layouts leave a key its name and give it another effect, which shows in the modifiers alone.
+        roles_[key].isLock = isLockKeysym(layout.keysyms[key]) && layout.modifiers[key] == LockMask;
         if (roles_[key].isLock) {
             roles_[key].flag = 0;
         }

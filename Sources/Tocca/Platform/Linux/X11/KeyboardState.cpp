@@ -53,6 +53,13 @@ std::optional<KeyTransition> KeyboardState::setLocked(bool isLocked) noexcept
     return flagsChanged(lockKeyCode_);
 }
 
+void KeyboardState::adopt(const Keys& down, bool isLocked) noexcept
+{
+    held_ = down;
+    isLocked_ = isLocked;
+    updateFlags();
+}
+
 void KeyboardState::updateFlags() noexcept
 {
     flags_ = isLocked_ ? flag::kAlphaShift : 0;

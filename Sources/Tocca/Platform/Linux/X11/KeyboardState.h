@@ -32,6 +32,9 @@ public:
 
     [[nodiscard]] std::optional<KeyTransition> setLocked(bool isLocked) noexcept;
 
+    /// Begins with these keys down, of which nothing is reported.
+    void adopt(const Keys& down, bool isLocked) noexcept;
+
     /// Takes over which keys are down after a time in which nothing was heard. Releases and a changed lock are reported;
     /// keys that went down meanwhile are not.
     template <class Report>
@@ -43,8 +46,7 @@ public:
                 reportIf(release(static_cast<std::uint8_t>(key)), report);
             }
         }
-        held_ = down;
-        updateFlags();
+        adopt(down, isLocked_);
         reportIf(setLocked(isLocked), report);
     }
 

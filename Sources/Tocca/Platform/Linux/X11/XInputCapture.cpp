@@ -111,12 +111,10 @@ void XInputCapture::followWish()
         if (isWanted) {
             reconnect();
         }
-    } else if (isWanted && !isListening_) {
-        if (!beginListening()) {
-            lose();
-        }
-    } else if (!isWanted && isListening_) {
+    } else if (!isWanted) {
         endListening();
+    } else if (!isListening_ && !beginListening()) {
+        lose();
     }
     isServing_ = false;
 }
@@ -151,17 +149,21 @@ bool XInputCapture::beginListening()
     firstSequence_ = snapshot->sequence;
     const double now = clock_.now();
     keys_.setRoles(snapshot->roles);
-    keys_.resynchronize(snapshot->down, snapshot->isLocked,
-                        [this, now](const KeyTransition& transition) { deliver(transition, now); });
-    dispatchEvents(false,
-                   now); // what arrived together with the answer will not make the descriptor readable again
+    if (std::exchange(hasListened_, true)) {
+        keys_.resynchronize(snapshot->down, snapshot->isLocked,
+                            [this, now](const KeyTransition& transition) { deliver(transition, now); });
+    } else {
+        keys_.adopt(snapshot->down, snapshot->isLocked);
+    }
+    // What arrived together with the answer does not make the descriptor readable again.
+    dispatchEvents(false, now);
     return true;
 }
 
 void XInputCapture::endListening()
 {
     isListening_ = false;
-    connection_->select({});
+    connection_->select({}); // or the thread would be woken for nothing
 }
 
 void XInputCapture::lose()
@@ -188,8 +190,10 @@ void XInputCapture::dispatchEvents(bool mayRead, double arrival)
 {
     // One read a turn: what it leaves behind makes the descriptor readable again.
     for (auto event = connection_->nextEvent(mayRead); event; event = connection_->nextEvent(false)) {
+        // Whoever disables the tap finds it so at once. What is missed now is made up for when it is enabled again.
+        isListening_ = isListening_ && isWanted_.load(std::memory_order_acquire);
         const auto age = static_cast<std::int32_t>(event->full_sequence - firstSequence_);
-        if (age >= 0) {
+        if (isListening_ && age >= 0) {
             dispatch(*event, arrival);
         }
     }
@@ -283,7 +287,7 @@ void XInputCapture::deliver(const KeyTransition& transition, double time)
 
 void XInputCapture::deliver(EventType type, const InputEvent& event)
 {
-    if (isListening_ && (mask_ & maskOf(type)) != 0 && isWanted_.load(std::memory_order_acquire)) {
+    if ((mask_ & maskOf(type)) != 0) {
         handler_(type, event);
     }
 }

@@ -65,6 +65,7 @@ private:
     std::unique_ptr<XInputConnection> connection_;
     int serverDescriptor_;
     bool isListening_ = false;
+    bool hasListened_ = false;
     bool isServing_ = false;
     std::uint32_t firstSequence_ = 0; // of the events that count
     double lastAttempt_ = 0.0;        // seconds; when a lost server was last looked for
