@@ -12,6 +12,8 @@ constexpr float kTarget = Limiter::kCeiling * (1.0F - 1e-6F);
 // Between two samples a signal hardly rises to more than twice the higher one; below this it is not worth a look.
 constexpr float kNearCeiling = Limiter::kCeiling / 2.0F;
 constexpr double kRecoverySeconds = 0.15;
+// What follows a block is not known yet; going on as it ends, ever more gently, mistakes the fewest peaks.
+constexpr float kSlopeKept = 0.7F;
 
 float peakOf(std::span<const float> samples) noexcept
 {
@@ -56,9 +58,10 @@ void Limiter::fillWindow(std::span<const float> piece, std::span<const float> be
     const auto end =
         std::copy(piece.begin(), piece.end(), std::copy(before_.begin(), before_.end(), window_.begin()));
     const std::size_t known = std::min(behind.size(), 2 * kBehind);
+    lastKnown_ = static_cast<std::ptrdiff_t>((piece.size() + known) / 2) - 1;
     auto next = std::copy(behind.begin(), behind.begin() + static_cast<std::ptrdiff_t>(known), end);
     for (; next != window_.end(); ++next) {
-        *next = *(next - 2);
+        *next = *(next - 2) + kSlopeKept * (*(next - 2) - *(next - 4));
     }
 }
 
@@ -68,15 +71,19 @@ void Limiter::findNeeds(std::size_t count) noexcept
     const auto level = [first](std::ptrdiff_t frame) {
         return std::max(std::abs(first[2 * frame]), std::abs(first[2 * frame + 1]));
     };
+    // The last known frame's way to the next is looked at when that is known, from the other side.
     const auto between = [this, first, &level](std::ptrdiff_t frame) {
-        return std::max(level(frame), level(frame + 1)) > kNearCeiling ? truePeak_.between(first + 2 * frame)
-                                                                       : 0.0F;
+        if (frame >= lastKnown_) {
+            return level(frame);
+        }
+        const float higher = std::max(level(frame), level(frame + 1));
+        return higher > kNearCeiling ? std::max(higher, truePeak_.between(first + 2 * frame)) : higher;
     };
     float peakBefore = between(-1);
     for (std::size_t i = 0; i < count; ++i) {
         const auto frame = static_cast<std::ptrdiff_t>(i);
         const float peakBehind = between(frame);
-        const float peak = std::max({level(frame), peakBefore, peakBehind});
+        const float peak = std::max(peakBefore, peakBehind);
         needs_[i] = peak > kTarget ? kTarget / peak : 1.0F;
         peakBefore = peakBehind;
     }

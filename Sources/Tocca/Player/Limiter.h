@@ -9,11 +9,11 @@
 
 namespace tocca::player {
 
-/// Keeps a mix at or below −0.5 dBFS true peak, and leaves what is below it untouched, bit for bit.
+/// Keeps a mix at or below −0.5 dBFS true peak, and leaves what stays below −1 dBFS untouched, bit for bit.
 ///
-/// Within a block the gain falls in straight lines that meet each peak in time; it jumps only for a peak at the very
-/// beginning, where no earlier frame is left to begin on. It recovers over 0.15 s. Samples never exceed the ceiling. The
-/// peak between samples may, by what the first frames of a block could not have known of the next: see README.md.
+/// Within a block the gain falls in straight lines that meet each peak in time, and jumps only where a peak leaves no
+/// earlier frame to begin on; it recovers over 0.15 s. Samples never exceed the ceiling. The signal between them may where
+/// a block ends, since what it rises to depends on the next block: README.md has the figures.
 /// Threads: render.
 /// Real-time: every member is wait-free; adds no delay.
 class Limiter {
@@ -42,6 +42,7 @@ private:
     std::array<float, 2 * kBefore> before_{}; // the last frames as they came in
     std::array<float, 2 * (kBefore + kPiece + kBehind)>
         window_{};                      // a piece as it came in, and its surroundings
+    std::ptrdiff_t lastKnown_ = 0;      // frame of the piece; those behind are guesses
     std::array<float, kPiece> needs_{}; // the highest gain that each frame bears
     std::array<float, kPiece> gains_{};
 };

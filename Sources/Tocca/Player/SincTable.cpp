@@ -23,7 +23,7 @@ double besselI0(double x)
     return sum;
 }
 
-double windowedSinc(double distance, double cutoff)
+double windowedSinc(double distance, double cutoff, double kaiserBeta)
 {
     constexpr double kHalfWidth = SincTable::kTaps / 2.0;
     const double edge = distance / kHalfWidth;
@@ -32,22 +32,7 @@ double windowedSinc(double distance, double cutoff)
     }
     const double x = std::numbers::pi * cutoff * distance;
     const double sinc = std::abs(x) < 1e-9 ? 1.0 : std::sin(x) / x;
-    return sinc * besselI0(kKaiserBeta * std::sqrt(1.0 - edge * edge));
-}
-
-std::array<double, SincTable::kTaps> weightsAt(double position, double cutoff)
-{
-    std::array<double, SincTable::kTaps> weights{};
-    double sum = 0.0;
-    for (std::size_t tap = 0; tap < weights.size(); ++tap) {
-        const double frame = static_cast<double>(tap) - static_cast<double>(SincTable::kTapsBefore);
-        weights[tap] = windowedSinc(position - frame, cutoff);
-        sum += weights[tap];
-    }
-    for (double& weight : weights) {
-        weight /= sum;
-    }
-    return weights;
+    return sinc * besselI0(kaiserBeta * std::sqrt(1.0 - edge * edge));
 }
 
 SincTable makeTable(double cutoff)
@@ -55,8 +40,8 @@ SincTable makeTable(double cutoff)
     SincTable table{};
     for (std::size_t phase = 0; phase < SincTable::kPhases; ++phase) {
         constexpr auto kPhases = static_cast<double>(SincTable::kPhases);
-        const auto here = weightsAt(static_cast<double>(phase) / kPhases, cutoff);
-        const auto next = weightsAt(static_cast<double>(phase + 1) / kPhases, cutoff);
+        const auto here = sincWeights(static_cast<double>(phase) / kPhases, cutoff, kKaiserBeta);
+        const auto next = sincWeights(static_cast<double>(phase + 1) / kPhases, cutoff, kKaiserBeta);
         for (std::size_t tap = 0; tap < SincTable::kTaps; ++tap) {
             table.rows[phase].weights[tap] = static_cast<float>(here[tap]);
             table.rows[phase].differences[tap] = static_cast<float>(next[tap] - here[tap]);
@@ -70,6 +55,21 @@ const SincTable kFullBand = makeTable(1.0);
 const SincTable kReducedBand = makeTable(kReducedCutoff);
 
 } // namespace
+
+std::array<double, SincTable::kTaps> sincWeights(double position, double cutoff, double kaiserBeta)
+{
+    std::array<double, SincTable::kTaps> weights{};
+    double sum = 0.0;
+    for (std::size_t tap = 0; tap < weights.size(); ++tap) {
+        const double frame = static_cast<double>(tap) - static_cast<double>(SincTable::kTapsBefore);
+        weights[tap] = windowedSinc(position - frame, cutoff, kaiserBeta);
+        sum += weights[tap];
+    }
+    for (double& weight : weights) {
+        weight /= sum;
+    }
+    return weights;
+}
 
 const SincTable& fullBandTable() noexcept
 {

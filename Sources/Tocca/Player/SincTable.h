@@ -23,6 +23,12 @@ struct SincTable {
     std::array<Row, kPhases> rows;
 };
 
+/// The weights of one position between two frames, their sum 1.
+/// Units: `position` is 0…1 of the way to the next frame; `cutoff` is a part of the band; a higher `kaiserBeta` rejects more of
+/// what lies beyond it, and takes more of the treble below it.
+[[nodiscard]] std::array<double, SincTable::kTaps> sincWeights(double position, double cutoff,
+                                                               double kaiserBeta);
+
 /// For speeds that raise no audible alias: the whole band. Threads: any. Real-time: wait-free.
 [[nodiscard]] const SincTable& fullBandTable() noexcept;
 

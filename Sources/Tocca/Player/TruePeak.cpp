@@ -8,6 +8,9 @@ namespace tocca::player {
 
 namespace {
 
+// Gentle enough to be true to peaks up to 20 kHz, where they rise highest between samples.
+constexpr double kKaiserBeta = 4.0;
+
 using Four [[gnu::vector_size(16)]] = float;
 
 Four load(const float* from) noexcept
@@ -22,9 +25,10 @@ Four load(const float* from) noexcept
 TruePeak::TruePeak() noexcept
 {
     for (std::size_t phase = 0; phase < kPhases; ++phase) {
-        const auto& row = fullBandTable().rows[(phase + 1) * SincTable::kPhases / (kPhases + 1)];
+        const double position = static_cast<double>(phase + 1) / static_cast<double>(kPhases + 1);
+        const auto weights = sincWeights(position, 1.0, kKaiserBeta);
         for (std::size_t i = 0; i < weights_[phase].size(); ++i) {
-            weights_[phase][i] = row.weights[i / 2];
+            weights_[phase][i] = static_cast<float>(weights[i / 2]);
         }
     }
 }

@@ -8,10 +8,10 @@
 
 namespace tocca::player {
 
-/// Estimates how high a signal rises between its samples, by fourfold oversampling.
+/// Estimates how high a signal rises between its samples, by eightfold oversampling.
 ///
 /// Threads: render. Real-time: wait-free.
-/// Source: the method of ITU-R BS.1770 Annex 2, with the taps of `SincTable`.
+/// Source: the method of ITU-R BS.1770 Annex 2, at twice its resolution.
 class TruePeak {
 public:
     /// How many frames around the interval are read: those before its first frame, and those behind it.
@@ -20,12 +20,11 @@ public:
 
     TruePeak() noexcept;
 
-    /// The largest magnitude of either side a quarter, half and three quarters of the way from the frame at `frame`
-    /// (interleaved stereo) to the next one.
+    /// The largest magnitude of either side at seven places between the frame at `frame` (interleaved stereo) and the next.
     [[nodiscard]] float between(const float* frame) const noexcept REALTIME;
 
 private:
-    static constexpr std::size_t kPhases = 3;
+    static constexpr std::size_t kPhases = 7;
 
     /// Every weight stands twice, for the left and the right sample of its frame.
     std::array<std::array<float, 2 * SincTable::kTaps>, kPhases> weights_{};
