@@ -7,6 +7,7 @@ class Clock;
 class Directories;
 class EventTaps;
 class Files;
+class FileStore;
 class Haptics;
 class LocalMonitors;
 class MainQueue;
@@ -33,6 +34,7 @@ struct Host {
     Workspace& workspace;
     Directories& directories;
     Files& files;
+    FileStore& fileStore;
     Random& random;
     StandardOutput& standardOutput;
 };

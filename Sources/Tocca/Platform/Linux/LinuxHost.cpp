@@ -21,6 +21,7 @@ Host LinuxHost::with(AudioPlayers& players) noexcept
             .workspace = workspace_,
             .directories = directories_,
             .files = files_,
+            .fileStore = fileStore_,
             .random = random_,
             .standardOutput = standardOutput_};
 }

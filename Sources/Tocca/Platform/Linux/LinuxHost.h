@@ -3,6 +3,7 @@
 #include "Platform/Host.h"
 #include "Platform/Linux/System/LinuxClock.h"
 #include "Platform/Linux/System/LinuxDirectories.h"
+#include "Platform/Linux/System/LinuxFileStore.h"
 #include "Platform/Linux/System/LinuxFiles.h"
 #include "Platform/Linux/System/LinuxHaptics.h"
 #include "Platform/Linux/System/LinuxLocalMonitors.h"
@@ -55,6 +56,7 @@ private:
     LinuxWorkspace workspace_;
     LinuxDirectories directories_;
     LinuxFiles files_;
+    LinuxFileStore fileStore_;
     LinuxRandom random_;
 };
 

@@ -2,9 +2,12 @@
 app_module(tocca_linux_system
     SOURCES
         Platform/Linux/System/Doorbell.cpp
+        Platform/Linux/System/FileCopy.cpp
         Platform/Linux/System/FileDescriptor.cpp
+        Platform/Linux/System/FileError.cpp
         Platform/Linux/System/LinuxClock.cpp
         Platform/Linux/System/LinuxDirectories.cpp
+        Platform/Linux/System/LinuxFileStore.cpp
         Platform/Linux/System/LinuxFiles.cpp
         Platform/Linux/System/LinuxLocalMonitors.cpp
         Platform/Linux/System/LinuxMainQueue.cpp
@@ -18,9 +21,12 @@ app_module(tocca_linux_system
         Platform/Linux/System/WakeDescriptor.cpp
     HEADERS
         Platform/Linux/System/Doorbell.h
+        Platform/Linux/System/FileCopy.h
         Platform/Linux/System/FileDescriptor.h
+        Platform/Linux/System/FileError.h
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxDirectories.h
+        Platform/Linux/System/LinuxFileStore.h
         Platform/Linux/System/LinuxFiles.h
         Platform/Linux/System/LinuxHaptics.h
         Platform/Linux/System/LinuxLocalMonitors.h

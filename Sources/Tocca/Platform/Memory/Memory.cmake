@@ -2,6 +2,8 @@ app_module(tocca_memory
     SOURCES
         Platform/Memory/MemoryAudioPlayers.cpp
         Platform/Memory/MemoryEventTaps.cpp
+        Platform/Memory/MemoryDisk.cpp
+        Platform/Memory/MemoryFileStore.cpp
         Platform/Memory/MemoryFiles.cpp
         Platform/Memory/MemoryHost.cpp
         Platform/Memory/MemoryQueues.cpp
@@ -11,6 +13,8 @@ app_module(tocca_memory
     HEADERS
         Platform/Memory/MemoryAudioPlayers.h
         Platform/Memory/MemoryEventTaps.h
+        Platform/Memory/MemoryDisk.h
+        Platform/Memory/MemoryFileStore.h
         Platform/Memory/MemoryFiles.h
         Platform/Memory/MemoryHost.h
         Platform/Memory/MemoryQueues.h

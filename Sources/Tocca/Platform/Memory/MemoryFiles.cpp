@@ -20,72 +20,86 @@ std::string textOf(const std::vector<std::byte>& bytes)
     return text;
 }
 
+bool MemoryFiles::exists(const std::filesystem::path& path) const
+{
+    return disk_.find(path, MemoryDisk::LastLink::Follow).hasValue();
+}
+
 Result<std::vector<std::string>> MemoryFiles::list(const std::filesystem::path& directory) const
 {
     ++accessCount_;
-    const auto found = nodes_.find(directory);
-    if (found == nodes_.end()) {
-        return Error{"No such file or directory"};
+    const auto found = disk_.find(directory, MemoryDisk::LastLink::Follow);
+    if (!found) {
+        return failure(directory, found.error());
     }
-    if (found->second.kind != Kind::Directory) {
-        return Error{"Not a directory"};
+    if (found.value()->kind != FileKind::Directory) {
+        return failure(directory, std::errc::not_a_directory);
     }
-    if (!found->second.isReadable) {
-        return Error{"Permission denied"};
+    if (!found.value()->isReadable) {
+        return failure(directory, std::errc::permission_denied);
     }
-    return found->second.entries;
+    std::vector<std::string> names;
+    for (const auto& entry : found.value()->entries) {
+        names.push_back(entry->name);
+    }
+    return names;
 }
 
 Result<SharedBytes> MemoryFiles::read(const std::filesystem::path& path, std::size_t limit) const
 {
     ++accessCount_;
-    const auto found = nodes_.find(path);
-    if (found == nodes_.end()) {
-        return Error{"No such file or directory"};
+    const auto found = disk_.find(path, MemoryDisk::LastLink::Follow);
+    if (!found) {
+        return failure(path, found.error());
     }
-    const Node& node = found->second;
-    if (node.kind != Kind::File) {
-        return Error{"Not a regular file"};
+    const MemoryDisk::Node& node = *found.value();
+    if (node.kind != FileKind::File) {
+        return Error{path.filename().string() + ": not a regular file"};
     }
     if (!node.isReadable) {
-        return Error{"Permission denied"};
+        return failure(path, std::errc::permission_denied);
     }
     if (node.bytes->size() > limit) {
-        return Error{"File too large"};
+        return failure(path, std::errc::file_too_large);
     }
     return node.bytes;
 }
 
 void MemoryFiles::makeDirectory(const std::filesystem::path& path)
 {
-    add(path, Kind::Directory);
+    add(path, FileKind::Directory);
 }
 
 void MemoryFiles::write(const std::filesystem::path& path, std::string_view text)
 {
-    add(path, Kind::File).bytes = bytesOf(text);
+    add(path, FileKind::File).bytes = bytesOf(text);
 }
 
 void MemoryFiles::makeSpecial(const std::filesystem::path& path)
 {
-    add(path, Kind::Special);
+    add(path, FileKind::Special);
+}
+
+void MemoryFiles::makeLink(const std::filesystem::path& path, const std::filesystem::path& target)
+{
+    add(path, FileKind::Link).target = target;
 }
 
 void MemoryFiles::makeUnreadable(const std::filesystem::path& path)
 {
-    nodes_.at(path).isReadable = false;
+    disk_.find(path, MemoryDisk::LastLink::Keep).value()->isReadable = false;
 }
 
-MemoryFiles::Node& MemoryFiles::add(const std::filesystem::path& path, Kind kind)
+MemoryDisk::Node& MemoryFiles::add(const std::filesystem::path& path, FileKind kind)
 {
-    const bool isNew = !nodes_.contains(path);
-    if (isNew && path.has_relative_path()) {
-        Node& parent = add(path.parent_path(), Kind::Directory);
-        parent.entries.push_back(path.filename().string());
+    if (const auto existing = disk_.find(path, MemoryDisk::LastLink::Keep)) {
+        existing.value()->kind = kind;
+        return *existing.value();
     }
-    Node& node = nodes_[path];
-    node.kind = kind;
-    return node;
+    if (!disk_.find(path.parent_path(), MemoryDisk::LastLink::Follow)) {
+        add(path.parent_path(), FileKind::Directory);
+    }
+    return *disk_.add(path, kind).value();
 }
 
 } // namespace tocca::platform::memory

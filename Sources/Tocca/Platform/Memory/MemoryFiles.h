@@ -2,8 +2,8 @@
 
 #include "Platform/Directories.h"
 #include "Platform/Files.h"
+#include "Platform/Memory/MemoryDisk.h"
 
-#include <map>
 #include <string>
 #include <string_view>
 
@@ -12,13 +12,14 @@ namespace tocca::platform::memory {
 [[nodiscard]] SharedBytes bytesOf(std::string_view text);
 [[nodiscard]] std::string textOf(const std::vector<std::byte>& bytes);
 
-/// A file system of absolute paths; a directory lists its entries in the order in which they were made.
+/// Files of a disk in memory; a directory lists its entries in the order in which they were made.
 class MemoryFiles : public Files {
 public:
-    [[nodiscard]] bool exists(const std::filesystem::path& path) const override
-    {
-        return nodes_.contains(path);
-    }
+    explicit MemoryFiles(MemoryDisk& disk)
+        : disk_(disk)
+    {}
+
+    [[nodiscard]] bool exists(const std::filesystem::path& path) const override;
 
     [[nodiscard]] Result<std::vector<std::string>>
     list(const std::filesystem::path& directory) const override;
@@ -34,6 +35,9 @@ public:
     /// Makes something that is neither a file nor a directory.
     void makeSpecial(const std::filesystem::path& path);
 
+    /// Makes a link to `target`, which need not exist.
+    void makeLink(const std::filesystem::path& path, const std::filesystem::path& target);
+
     /// Makes reading or listing `path` fail.
     void makeUnreadable(const std::filesystem::path& path);
 
@@ -41,18 +45,9 @@ public:
     [[nodiscard]] int accessCount() const noexcept { return accessCount_; }
 
 private:
-    enum class Kind { Directory, File, Special };
+    MemoryDisk::Node& add(const std::filesystem::path& path, FileKind kind);
 
-    struct Node {
-        Kind kind = Kind::Directory;
-        SharedBytes bytes;
-        bool isReadable = true;
-        std::vector<std::string> entries;
-    };
-
-    Node& add(const std::filesystem::path& path, Kind kind);
-
-    std::map<std::filesystem::path, Node> nodes_;
+    MemoryDisk& disk_;
     mutable int accessCount_ = 0;
 };
 

@@ -40,6 +40,7 @@ MemoryHost::MemoryHost()
           .workspace = workspace_,
           .directories = directories_,
           .files = files_,
+          .fileStore = fileStore_,
           .random = random_,
           .standardOutput = standardOutput_,
       }

@@ -3,6 +3,7 @@
 #include "Platform/Host.h"
 #include "Platform/Memory/MemoryAudioPlayers.h"
 #include "Platform/Memory/MemoryEventTaps.h"
+#include "Platform/Memory/MemoryFileStore.h"
 #include "Platform/Memory/MemoryFiles.h"
 #include "Platform/Memory/MemoryQueues.h"
 #include "Platform/Memory/MemoryServices.h"
@@ -54,6 +55,8 @@ public:
 
     [[nodiscard]] MemoryFiles& files() noexcept { return files_; }
 
+    [[nodiscard]] MemoryFileStore& fileStore() noexcept { return fileStore_; }
+
     [[nodiscard]] MemoryRandom& random() noexcept { return random_; }
 
     [[nodiscard]] MemoryStandardOutput& standardOutput() noexcept { return standardOutput_; }
@@ -71,7 +74,9 @@ private:
     MemoryHaptics haptics_;
     MemoryWorkspace workspace_;
     MemoryDirectories directories_;
-    MemoryFiles files_;
+    MemoryDisk disk_;
+    MemoryFiles files_{disk_};
+    MemoryFileStore fileStore_{disk_};
     MemoryRandom random_;
     MemoryStandardOutput standardOutput_;
     Host host_;

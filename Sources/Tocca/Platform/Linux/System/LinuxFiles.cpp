@@ -1,6 +1,7 @@
 #include "Platform/Linux/System/LinuxFiles.h"
 
 #include "Platform/Linux/System/FileDescriptor.h"
+#include "Platform/Linux/System/FileError.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -18,16 +19,6 @@ namespace tocca::platform::linux {
 namespace {
 
 constexpr std::size_t kGrowth = 65536;
-
-Error failure(const std::filesystem::path& path, const std::string& reason)
-{
-    return {path.string() + ": " + reason};
-}
-
-Error failure(const std::filesystem::path& path, int number)
-{
-    return failure(path, std::generic_category().message(number));
-}
 
 FileDescriptor openWithoutWaiting(const std::filesystem::path& path)
 {
@@ -84,7 +75,7 @@ Result<std::vector<std::string>> LinuxFiles::list(const std::filesystem::path& d
         names.push_back(entry->path().filename().string());
     }
     if (error) {
-        return failure(directory, error.message());
+        return fileError(directory, error.message());
     }
     return names;
 }
@@ -93,24 +84,24 @@ Result<SharedBytes> LinuxFiles::read(const std::filesystem::path& path, std::siz
 {
     const FileDescriptor file = openWithoutWaiting(path);
     if (!file.isOpen()) {
-        return failure(path, errno);
+        return fileError(path, errno);
     }
 
     struct stat status {};
 
     if (::fstat(file.get(), &status) != 0) {
-        return failure(path, errno);
+        return fileError(path, errno);
     }
     if (!S_ISREG(status.st_mode)) {
-        return failure(path, "not a regular file");
+        return fileError(path, "not a regular file");
     }
     const auto size = static_cast<std::size_t>(status.st_size);
     if (size > limit) {
-        return failure(path, EFBIG);
+        return fileError(path, EFBIG);
     }
     auto bytes = std::make_shared<std::vector<std::byte>>();
     if (const int number = readUpTo(file.get(), size, limit, *bytes); number != 0) {
-        return failure(path, number);
+        return fileError(path, number);
     }
     return SharedBytes(std::move(bytes));
 }

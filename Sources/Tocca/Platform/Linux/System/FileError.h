@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Support/Result.h"
+
+#include <filesystem>
+#include <string>
+
+namespace tocca::platform::linux {
+
+/// How a failure is told to people: the path's last component and the reason.
+[[nodiscard]] Error fileError(const std::filesystem::path& path, const std::string& reason);
+
+/// The same with the system's text for an error number.
+[[nodiscard]] Error fileError(const std::filesystem::path& path, int number);
+
+} // namespace tocca::platform::linux
