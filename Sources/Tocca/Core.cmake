@@ -1,7 +1,13 @@
+find_package(simdjson REQUIRED)
+
 app_module(tocca_core
     SOURCES
         Audio/AcousticCatalogues.cpp
         Audio/AudioEngine.cpp
+        Audio/PackImporter.cpp
+        Audio/PackLibrary.cpp
+        Audio/PackManifest.cpp
+        Audio/PackStaging.cpp
         Audio/PeripheralSynthesis.cpp
         Audio/SoundPackLoader.cpp
         Audio/SoundProfile.cpp
@@ -13,6 +19,11 @@ app_module(tocca_core
         Audio/AcousticCatalogues.h
         Audio/AudioEngine.h
         Audio/AudioSettings.h
+        Audio/PackImportError.h
+        Audio/PackImporter.h
+        Audio/PackLibrary.h
+        Audio/PackManifest.h
+        Audio/PackStaging.h
         Audio/PeripheralSynthesis.h
         Audio/PlayerPool.h
         Audio/RandomDraws.h
@@ -24,4 +35,5 @@ app_module(tocca_core
         Keyboard/Debouncer.h
         Keyboard/KeyboardMonitor.h
         Keyboard/TypingSpeed.h
-    DEPENDS tocca_platform)
+    DEPENDS tocca_platform
+    PRIVATE_DEPENDS simdjson::simdjson)

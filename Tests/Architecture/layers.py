@@ -25,6 +25,7 @@ LAYERS["main"] = set(LAYERS)
 
 # Headers of libraries and of the processor that a layer may use besides the standard library's.
 FOREIGN = {
+    "Audio": {"simdjson.h"},
     "Player": {"sndfile.h", "soxr.h", "immintrin.h", "xmmintrin.h"},
 }
 UNRESTRICTED = {"Platform/Linux", "main"}

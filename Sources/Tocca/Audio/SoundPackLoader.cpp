@@ -1,9 +1,13 @@
 #include "Audio/SoundPackLoader.h"
 
+#include "Audio/PackImportError.h"
+#include "Audio/PackImporter.h"
 #include "Audio/RandomDraws.h"
 #include "Platform/Directories.h"
+#include "Platform/FileStore.h"
 #include "Platform/Files.h"
 #include "Platform/Host.h"
+#include "Platform/MainQueue.h"
 #include "Support/ThreadRole.h"
 
 #include <algorithm>
@@ -13,12 +17,60 @@ namespace tocca::audio {
 
 SoundPackLoader::SoundPackLoader(platform::Host& host)
     : host_(host)
-{}
+    , library_(host.files, host.fileStore)
+{
+    refreshCustomPacks();
+}
 
 SoundPackLoader& SoundPackLoader::shared()
 {
     static auto& instance = *new SoundPackLoader(platform::defaultHost());
     return instance;
+}
+
+std::filesystem::path SoundPackLoader::customPacksDirectory() const
+{
+    const auto support = host_.directories.applicationSupport();
+    if (!support) {
+        return {};
+    }
+    auto directory = *support / "Tocca/CustomSoundPacks";
+    // Without it the list stays empty, and an import says why.
+    static_cast<void>(host_.fileStore.makeDirectories(directory));
+    return directory;
+}
+
+void SoundPackLoader::refreshCustomPacks()
+{
+    requireThreadRole({ThreadRole::Main}, "SoundPackLoader::refreshCustomPacks");
+    const auto directory = customPacksDirectory();
+    if (directory.empty()) {
+        return;
+    }
+    auto packs = library_.packs(directory);
+    if (!packs) {
+        return;
+    }
+    host_.mainQueue.post(lifetime_.guard([this, found = std::move(packs.value())]() mutable {
+        std::stable_sort(found.begin(), found.end(),
+                         [](const auto& a, const auto& b) { return a.name < b.name; });
+        availableCustomPacks.set(std::move(found));
+    }));
+}
+
+std::string SoundPackLoader::importCustomPack(const std::filesystem::path& from)
+{
+    requireThreadRole({ThreadRole::Main}, "SoundPackLoader::importCustomPack");
+    const auto directory = customPacksDirectory();
+    if (directory.empty()) {
+        throw PackImportError({"the system names no folder for the user's data"});
+    }
+    const auto name = PackImporter(host_.files, host_.fileStore).import(from, directory);
+    if (!name) {
+        throw PackImportError(name.error());
+    }
+    refreshCustomPacks();
+    return name.value();
 }
 
 const PackTable& SoundPackLoader::loadPack(const std::string& id, const std::filesystem::path& folderURL)
