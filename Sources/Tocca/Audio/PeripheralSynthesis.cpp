@@ -77,7 +77,7 @@ public:
     void number(Unsigned value)
     {
         for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-            bytes_.push_back(static_cast<std::byte>((value >> (8 * i)) & 0xFFU));
+            bytes_.push_back(static_cast<std::byte>((std::uint32_t{value} >> (8 * i)) & 0xFFU));
         }
     }
 
