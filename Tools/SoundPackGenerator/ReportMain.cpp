@@ -29,6 +29,8 @@ int main(int argc, char** argv)
     std::cout << '\n';
     printDistances(std::cout, packs.value());
     std::cout << '\n';
+    printSmallSpeakers(std::cout, packs.value());
+    std::cout << '\n';
     printTypingLoads(std::cout, packs.value());
     return std::cout.flush() && std::ranges::all_of(checks, &Check::holds) ? 0 : 1;
 }

@@ -1,6 +1,8 @@
 #include "Acceptance/Report.h"
 
 #include "Acceptance/SlotSummary.h"
+#include "Analysis/Loudness.h"
+#include "Synthesis/Filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -88,6 +90,24 @@ void printDistances(std::ostream& out, const std::vector<PackRecordings>& packs)
         out << std::left << std::setw(12) << one.folder << std::right;
         for (const PackRecordings& other : packs) {
             out << fixed(meanDistance(one.standardPress(), other.standardPress()), 12, 2);
+        }
+        out << '\n';
+    }
+}
+
+void printSmallSpeakers(std::ostream& out, const std::vector<PackRecordings>& packs)
+{
+    out << "Loudness of standard presses on small speakers, LU against full range.\n\n"
+           "pack         from 250 Hz  from 500 Hz\n";
+    for (const PackRecordings& pack : packs) {
+        out << std::left << std::setw(12) << pack.folder << std::right;
+        for (const double fromHz : {250.0, 500.0}) {
+            const Biquad speaker = butterworthHighPass(fromHz);
+            out << fixed(medianOf(pack.standardPress(),
+                                  [&](const Recording& r) {
+                                      return loudness(speaker.apply(speaker.apply(r.signal))) - r.lufs;
+                                  }),
+                         13, 2);
         }
         out << '\n';
     }

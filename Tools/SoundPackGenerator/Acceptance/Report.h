@@ -17,4 +17,7 @@ void printChecks(std::ostream& out, const std::vector<Check>& checks);
 /// Mean distances of the standard presses of every two packs; the diagonal is the spread inside a pack.
 void printDistances(std::ostream& out, const std::vector<PackRecordings>& packs);
 
+/// How much loudness the standard presses lose on a speaker that gives nothing below 250 or 500 Hz.
+void printSmallSpeakers(std::ostream& out, const std::vector<PackRecordings>& packs);
+
 } // namespace tocca::soundpack

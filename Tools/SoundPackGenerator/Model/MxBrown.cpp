@@ -40,15 +40,15 @@ std::vector<Bank> banks()
 Stroke standardPress()
 {
     return {.lengthMs = 180, .impacts = {
-        {.role = Role::Bump, .atMs = 0, .speed = 0.9, .contactUs = 120,
+        {.role = Role::Bump, .atMs = 0, .speed = 0.8, .contactUs = 120,
          .rattle = {.count = 2, .spanMs = 2, .levelDb = -10},
          .friction = Friction{.delayMs = 0.1, .lengthMs = 4.5, .levelDb = -22, .cutoffHz = 7000},
          .drives = {{BankId::Leaf, -10}, {BankId::House, -18}, {BankId::Plate, -15}},
          .directDb = 10.5},
-        {.role = Role::Main, .atMs = 4.4, .contactUs = 130,
+        {.role = Role::Main, .atMs = 4.4, .contactUs = 150,
          .bounce = {.restitution = 0.3, .firstGapMs = 0.9},
          .rattle = {.count = 6, .spanMs = 5, .levelDb = -15},
-         .drives = {{BankId::Deep, 0}, {BankId::House, -6}, {BankId::Cap, -7}, {BankId::Plate, 1},
+         .drives = {{BankId::Deep, 1}, {BankId::House, -6}, {BankId::Cap, -7}, {BankId::Plate, 1},
                     {BankId::Spring, -37}},
          .directDb = 20.5},
     }};
@@ -72,7 +72,7 @@ std::vector<BigKey> bigKeys()
 {
     return {
         {.key = Key::Space, .capScale = 0.58, .deepScale = 0.75, .plateScale = 0.86, .houseScale = 0.88,
-         .deepDb = 7, .capDb = 1, .speed = 1.08, .bumpSpeed = 1.45, .farSideMs = 2.2, .farSideDb = -4,
+         .deepDb = 7, .capDb = 1, .speed = 1.08, .bumpSpeed = 1.45, .farSideMs = 2.6, .farSideDb = -4,
          .ticks = 9, .tickSpanMs = 18, .stabiliserDb = -21, .extraMs = 40},
         {.key = Key::Enter, .capScale = 0.74, .deepScale = 0.88, .plateScale = 1, .houseScale = 0.94,
          .deepDb = 4, .capDb = 0, .speed = 1.05, .bumpSpeed = 1.3, .farSideMs = 1.4, .farSideDb = -6,

@@ -123,6 +123,12 @@ Stroke standardRelease()
          .rattle = {.count = 4, .spanMs = 8, .levelDb = -10},
          .drives = {{BankId::Pawl, -12}, {BankId::Frame, -17}, {BankId::Carriage, -14}},
          .directDb = 0.5},
+        // The type bar falls back on its rest.
+        {.atMs = 32, .jitter = 0.08, .speed = 0.4, .contactUs = 160,
+         .bounce = {.restitution = 0.45, .firstGapMs = 7},
+         .rattle = {.count = 3, .spanMs = 6, .levelDb = -12},
+         .drives = {{BankId::Lever, -4}, {BankId::Typebar, -12}, {BankId::Deep, -8}, {BankId::Frame, -18}},
+         .directDb = 6},
     }};
 }
 
