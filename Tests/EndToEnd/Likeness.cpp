@@ -8,9 +8,9 @@ namespace tocca::endtoend {
 namespace {
 
 constexpr double kSampleRate = 48000.0;
-constexpr std::size_t kLags = 288;      // 6 ms
-constexpr std::size_t kCompared = 1920; // 40 ms
-constexpr double kSlowest = 0.96;
+constexpr std::size_t kLags = 192;     // 4 ms
+constexpr std::size_t kCompared = 960; // 20 ms
+constexpr double kSlowest = 0.94;
 constexpr double kRateStep = 0.002;
 constexpr int kRates = 51;
 

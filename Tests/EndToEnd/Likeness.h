@@ -23,7 +23,7 @@ struct Likeness {
     double rate = 0.0;        ///< how fast the recording was played
 };
 
-/// Compares interleaved stereo `sound`, which begins within its first 6 ms, with each recording at rates from 0.96 to 1.06.
+/// Compares interleaved stereo `sound`, which begins within its first 4 ms, with each recording at rates from 0.94 to 1.04.
 [[nodiscard]] Likeness mostLike(std::span<const float> sound, const std::vector<PackRecording>& pack);
 
 } // namespace tocca::endtoend

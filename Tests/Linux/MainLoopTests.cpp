@@ -1,11 +1,13 @@
 #include "Linux/PolledMachine.h"
-#include "Support/ThreadRole.h"
+#include "TestKit/RealtimeGuard.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <thread>
@@ -49,6 +51,18 @@ TEST(LinuxMainQueue, TakesRealtimeAndOrdinaryTasksFromSeveralThreadsInEachOnesOr
         poster.join();
     }
     EXPECT_EQ(outOfOrder, 0);
+}
+
+TEST(LinuxMainQueue, TakesRealtimeTasksWithoutAllocatingOrLocking)
+{
+    LinuxTimers timers;
+    LinuxMainQueue queue(timers);
+    const testkit::RealtimeGuard guard;
+    for (int i = 0; i < 3000; ++i) { // the queue overflows as well
+        queue.postRealtime([i] { (void)i; });
+    }
+    const auto violations = guard.violations();
+    EXPECT_EQ(violations.total(), 0U);
 }
 
 TEST(LinuxMainQueue, DropsItsOldestRealtimeTasksWhenTheMainThreadLagsBehind)

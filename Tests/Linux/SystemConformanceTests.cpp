@@ -1,6 +1,8 @@
 #include "Linux/PolledMachine.h"
 #include "Linux/TemporaryDirectory.h"
+#include "Platform/FileStoreConformance.h"
 #include "Platform/FilesConformance.h"
+#include "Platform/Linux/System/LinuxFileStore.h"
 #include "Platform/Linux/System/LinuxFiles.h"
 #include "Platform/MainQueueAndTimersConformance.h"
 #include "Platform/SerialQueueConformance.h"
@@ -13,6 +15,8 @@ class DiskMachine {
 public:
     Files& files() { return files_; }
 
+    FileStore& fileStore() { return fileStore_; }
+
     [[nodiscard]] std::filesystem::path root() const { return directory_.path(); }
 
     static void makeDirectory(const std::filesystem::path& path) { std::filesystem::create_directory(path); }
@@ -24,9 +28,15 @@ public:
 
     static void makeSpecial(const std::filesystem::path& path) { linux::TemporaryDirectory::makeFifo(path); }
 
+    static void makeLink(const std::filesystem::path& path, const std::filesystem::path& target)
+    {
+        std::filesystem::create_symlink(target, path);
+    }
+
 private:
     linux::TemporaryDirectory directory_;
     linux::LinuxFiles files_;
+    linux::LinuxFileStore fileStore_;
 };
 
 } // namespace
@@ -34,5 +44,6 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Linux, SerialQueueConformance, linux::PolledMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Linux, MainQueueAndTimersConformance, linux::PolledMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Linux, FilesConformance, DiskMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Linux, FileStoreConformance, DiskMachine);
 
 } // namespace tocca::platform

@@ -171,13 +171,10 @@ TEST(Decoder, CutsRecordingsAtTheLimitsWhateverTheyClaim)
     EXPECT_EQ(decode(wav, {.seconds = 0.1}).value().frameCount(), 4800U);
     EXPECT_EQ(decode(wav, {.frames = 77}).value().frameCount(), 77U);
 
-    // Two minutes of silence take Vorbis a few kilobytes.
-    const auto ogg = encoded(Encoding::OggVorbis, std::vector<float>(120 * 8000, 0.0F), 1, 8000);
-    EXPECT_LT(ogg.size(), 100000U);
+    // Half a minute of silence and more takes Vorbis a few kilobytes.
+    const auto ogg = encoded(Encoding::OggVorbis, std::vector<float>(40 * 8000, 0.0F), 1, 8000);
+    EXPECT_LT(ogg.size(), 50000U);
     EXPECT_EQ(decode(ogg).value().frameCount(), 30U * 8000U);
-
-    const auto rapid = floatWav(std::vector<float>((1U << 21U) + 10, 0.25F), 1, 384000);
-    EXPECT_EQ(decode(rapid).value().frameCount(), 1U << 21U);
 }
 
 TEST(Decoder, TamesSamplesFarBeyondFullScaleAndFarBelowHearing)

@@ -70,7 +70,7 @@ std::vector<float> noise(std::size_t frames, float level)
 /// on a limiter than any recording.
 std::vector<float> strokes(float level, float smoothing)
 {
-    auto stroke = testkit::click(4000, level);
+    auto stroke = testkit::click(3000, level);
     float once = 0.0F;
     float twice = 0.0F;
     for (float& sample : stroke) {
@@ -78,7 +78,7 @@ std::vector<float> strokes(float level, float smoothing)
         twice = smoothing * twice + (1.0F - smoothing) * once;
         sample = (1.0F + 2.0F * smoothing) * twice;
     }
-    std::vector<float> samples(20000, 0.0F);
+    std::vector<float> samples(9000, 0.0F);
     for (std::size_t at = 100; at + stroke.size() < samples.size(); at += 503) {
         for (std::size_t i = 0; i < stroke.size(); ++i) {
             samples[at + i] += stroke[i];
@@ -91,9 +91,9 @@ const std::vector<std::vector<std::size_t>> kBlockings{{64}, {1}, {17, 64, 3}, {
 
 TEST(Limiter, PassesWhatStaysADecibelBelowFullScaleBitForBit)
 {
-    const std::array inputs{noise(20000, 0.45F), testkit::click(5000, 0.4F),
-                            testkit::sine(50, kRate, 20000, 0.89), testkit::sine(997, kRate, 20000, 0.89),
-                            testkit::sine(3001, kRate, 20000, 0.89)};
+    const std::array inputs{noise(5000, 0.45F), testkit::click(5000, 0.4F),
+                            testkit::sine(50, kRate, 5000, 0.89), testkit::sine(997, kRate, 5000, 0.89),
+                            testkit::sine(3001, kRate, 5000, 0.89)};
     for (std::size_t i = 0; i < inputs.size(); ++i) {
         for (const auto& blocks : kBlockings) {
             EXPECT_EQ(limited(inputs[i], blocks), inputs[i])
@@ -117,7 +117,7 @@ TEST(Limiter, NeverLetsASampleOverTheCeiling)
 TEST(Limiter, HoldsTheTruePeakOfSteadyTonesWithinATenthOfADecibel)
 {
     // At a quarter of the rate and 45 degrees every sample is 3 dB below the peak.
-    std::vector<float> quarter(20000);
+    std::vector<float> quarter(5000);
     for (std::size_t i = 0; i < quarter.size(); ++i) {
         quarter[i] = (i / 2) % 2 == 0 ? 0.9F : -0.9F;
     }
@@ -162,15 +162,15 @@ TEST(Limiter, BendsALoudWaveWithoutASingleStep)
 {
     for (const double frequency : {50.0, 200.0, 1000.0}) {
         for (const auto& blocks : kBlockings) {
-            auto input = testkit::sine(frequency, kRate, 30000, 0.9);
-            for (std::size_t i = 10000; i < 12000; ++i) {
-                input[i] *= 1.0F + 3.0F * static_cast<float>(i - 10000) / 2000.0F;
+            auto input = testkit::sine(frequency, kRate, 9000, 0.9);
+            for (std::size_t i = 3000; i < 4000; ++i) {
+                input[i] *= 1.0F + 3.0F * static_cast<float>(i - 3000) / 1000.0F;
             }
-            for (std::size_t i = 12000; i < 20000; ++i) {
+            for (std::size_t i = 4000; i < 6000; ++i) {
                 input[i] *= 4.0F;
             }
-            for (std::size_t i = 20000; i < 22000; ++i) {
-                input[i] *= 4.0F - 3.0F * static_cast<float>(i - 20000) / 2000.0F;
+            for (std::size_t i = 6000; i < 7000; ++i) {
+                input[i] *= 4.0F - 3.0F * static_cast<float>(i - 6000) / 1000.0F;
             }
             const auto output = limited(input, blocks);
             float widestIn = 0.0F;

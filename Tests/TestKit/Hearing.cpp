@@ -1,6 +1,7 @@
 #include "TestKit/Hearing.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tocca::testkit {
 
@@ -29,20 +30,21 @@ std::vector<Sound> soundsOf(const Recording& recording, double from)
     return sounds;
 }
 
-Hearing hear(const std::vector<Stroke>& strokes, const Recording& recording)
+Hearing hear(std::vector<Stroke> strokes, const Recording& recording)
 {
-    Hearing hearing;
-    hearing.ofStroke.resize(strokes.size());
-    if (strokes.empty()) {
+    Hearing hearing{.strokes = std::move(strokes), .ofStroke = {}, .others = {}};
+    const std::vector<Stroke>& all = hearing.strokes;
+    hearing.ofStroke.resize(all.size());
+    if (all.empty()) {
         return hearing;
     }
-    for (const Sound& sound : soundsOf(recording, strokes.front().time)) {
+    for (const Sound& sound : soundsOf(recording, all.front().time)) {
         const auto after =
-            std::upper_bound(strokes.begin(), strokes.end(), sound.time,
+            std::upper_bound(all.begin(), all.end(), sound.time,
                              [](double time, const Stroke& stroke) { return time < stroke.time; });
-        const auto index = static_cast<std::size_t>(after - strokes.begin()) - 1;
+        const auto index = static_cast<std::size_t>(after - all.begin()) - 1;
         std::optional<Sound>& place = hearing.ofStroke[index];
-        if (place || sound.time - strokes[index].time > kLatest) {
+        if (place || sound.time - all[index].time > kLatest) {
             hearing.others.push_back(sound);
         } else {
             place = sound;

@@ -17,7 +17,8 @@ struct Sound {
 
 /// Which strokes were heard.
 struct Hearing {
-    std::vector<std::optional<Sound>> ofStroke; ///< one for each stroke, nothing for a missed one
+    std::vector<Stroke> strokes;
+    std::vector<std::optional<Sound>> ofStroke; ///< one for each of `strokes`, nothing for a missed one
     std::vector<Sound> others;                  ///< what no stroke, or a stroke heard already, accounts for
 
     [[nodiscard]] std::size_t heard() const noexcept;
@@ -27,6 +28,6 @@ struct Hearing {
 [[nodiscard]] std::vector<Sound> soundsOf(const Recording& recording, double from);
 
 /// Gives each sound of `recording` since the first stroke to the last stroke before it.
-[[nodiscard]] Hearing hear(const std::vector<Stroke>& strokes, const Recording& recording);
+[[nodiscard]] Hearing hear(std::vector<Stroke> strokes, const Recording& recording);
 
 } // namespace tocca::testkit

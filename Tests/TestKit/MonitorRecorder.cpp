@@ -15,6 +15,7 @@ namespace tocca::testkit {
 
 namespace {
 
+constexpr const char* kName = "tocca-recorder";
 constexpr std::chrono::milliseconds kPoll{2};
 constexpr std::size_t kMinQuantum = 32;
 constexpr double kNanosecond = 1e-9;
@@ -42,16 +43,16 @@ public:
         , blocks_(samples_.size() / 2 / kMinQuantum)
     {
         pw_init(nullptr, nullptr);
-        loop_ = pw_thread_loop_new("monitor-recorder", nullptr);
+        loop_ = pw_thread_loop_new(kName, nullptr);
         pw_thread_loop_lock(loop_);
         pw_thread_loop_start(loop_);
-        pw_properties* const properties = pw_properties_new(
-            PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY, "Capture", PW_KEY_NODE_NAME,
-            "tocca-monitor-recorder", PW_KEY_STREAM_CAPTURE_SINK, "true", PW_KEY_CONFIG_NAME,
-            "client-rt.conf", PW_KEY_NODE_DONT_RECONNECT, "false", nullptr);
-        stream_ = pw_stream_new_simple(pw_thread_loop_get_loop(loop_), "tocca-monitor-recorder", properties,
-                                       &kEvents, this);
-        connect();
+        // Without this configuration the data thread is an ordinary one, and a busy computer makes it miss cycles.
+        context_ = pw_context_new(pw_thread_loop_get_loop(loop_),
+                                  pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0);
+        core_ = pw_context_connect(context_, nullptr, 0);
+        if (core_ != nullptr) {
+            connect();
+        }
         pw_thread_loop_unlock(loop_);
     }
 
@@ -59,8 +60,13 @@ public:
     {
         pw_thread_loop_lock(loop_);
         if (stream_ != nullptr) {
+            spa_hook_remove(&listener_);
             pw_stream_destroy(stream_);
         }
+        if (core_ != nullptr) {
+            pw_core_disconnect(core_);
+        }
+        pw_context_destroy(context_);
         pw_thread_loop_unlock(loop_);
         pw_thread_loop_stop(loop_);
         pw_thread_loop_destroy(loop_);
@@ -97,9 +103,10 @@ private:
 
     void connect()
     {
-        if (stream_ == nullptr) {
-            return;
-        }
+        stream_ = pw_stream_new(core_, kName,
+                                pw_properties_new(PW_KEY_MEDIA_TYPE, "Audio", PW_KEY_MEDIA_CATEGORY,
+                                                  "Capture", PW_KEY_STREAM_CAPTURE_SINK, "true", nullptr));
+        pw_stream_add_listener(stream_, &listener_, &kEvents, this);
         std::array<std::uint8_t, 512> storage{};
         spa_pod_builder builder{};
         spa_pod_builder_init(&builder, storage.data(), storage.size());
@@ -179,7 +186,10 @@ private:
     std::uint64_t expectedPosition_ = 0;  // data thread
     spa_io_position* position_ = nullptr; // data thread
     pw_thread_loop* loop_ = nullptr;
+    pw_context* context_ = nullptr;
+    pw_core* core_ = nullptr;
     pw_stream* stream_ = nullptr;
+    spa_hook listener_{};
 };
 
 const pw_stream_events MonitorRecorder::Stream::kEvents = [] {

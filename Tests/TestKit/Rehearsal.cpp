@@ -6,6 +6,7 @@
 #include <linux/input-event-codes.h>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace tocca::testkit {
 
@@ -19,12 +20,12 @@ Hearing typeAndHear(XTestKeyboard& keyboard, const MonitorRecorder& recorder,
                     std::span<const std::uint16_t> keys, const Rhythm& rhythm, std::mt19937& random,
                     std::chrono::milliseconds deadline)
 {
-    const std::vector<Stroke> strokes = type(keyboard, keys, rhythm, random);
+    std::vector<Stroke> strokes = type(keyboard, keys, rhythm, random);
     std::this_thread::sleep_for(kTail);
     if (!recorder.waitUntil(now(), deadline)) {
         throw std::runtime_error("the sink has stopped playing");
     }
-    return hear(strokes, recorder.recording());
+    return hear(std::move(strokes), recorder.recording());
 }
 
 bool becomesAudible(XTestKeyboard& keyboard, const MonitorRecorder& recorder,

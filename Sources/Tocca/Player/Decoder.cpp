@@ -46,13 +46,13 @@ float tidied(float sample) noexcept
     return std::abs(sample) < kSmallest ? 0.0F : std::clamp(sample, -kMaxMagnitude, kMaxMagnitude);
 }
 
-void appendFront(Channels& to, std::span<const float> samples, std::size_t channelCount)
+void append(std::vector<float>& to, std::span<const float> samples, std::size_t first, std::size_t stride)
 {
-    for (std::size_t i = 0; i < samples.size(); i += channelCount) {
-        to.left.push_back(tidied(samples[i]));
-        if (channelCount == 2) {
-            to.right.push_back(tidied(samples[i + 1]));
-        }
+    const std::size_t before = to.size();
+    const std::size_t count = samples.size() / stride;
+    to.resize(before + count);
+    for (std::size_t i = 0; i < count; ++i) {
+        to[before + i] = tidied(samples[first + i * stride]);
     }
 }
 
@@ -89,8 +89,11 @@ Result<Channels> readAll(SoundFile& file, SoundFormat format, std::size_t maxFra
         }
         if (channelCount > 2) {
             appendMixed(channels, samples, channelCount, mix);
-        } else {
-            appendFront(channels, samples, channelCount);
+            continue;
+        }
+        append(channels.left, samples, 0, channelCount);
+        if (channelCount == 2) {
+            append(channels.right, samples, 1, channelCount);
         }
     }
     return channels;

@@ -45,8 +45,8 @@ TEST(QuantumGovernor, LooksOnlyAtNewDropOutsAndStopsAtTheLargestSize)
     for (int i = 1; i < 50; ++i) {
         EXPECT_FALSE(output.dropOut(i * 0.1, 0));
     }
-    for (double at = 100.0; at < 200.0; at += 2.0) {
-        output.dropOut(at, 5);
+    for (int i = 0; i < 50; ++i) {
+        output.dropOut(100.0 + i * 2.0, 5);
     }
     EXPECT_EQ(output.governor.quantum(), 512);
 }

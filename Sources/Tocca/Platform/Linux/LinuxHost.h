@@ -35,6 +35,8 @@ public:
 
     [[nodiscard]] LinuxMainQueue& mainQueue() noexcept { return mainQueue_; }
 
+    [[nodiscard]] LinuxStandardOutput& standardOutput() noexcept { return standardOutput_; }
+
     /// Where the windows hand in what they receive.
     [[nodiscard]] LinuxLocalMonitors& localMonitors() noexcept { return localMonitors_; }
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <compare>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -42,7 +41,11 @@ Nanoseconds nanosecondsOf(double seconds) noexcept
 struct Turn {
     Nanoseconds due = 0;
     std::uint64_t sequence = 0;
-    auto operator<=>(const Turn&) const = default;
+
+    bool operator<(const Turn& other) const noexcept
+    {
+        return due != other.due ? due < other.due : sequence < other.sequence;
+    }
 };
 
 struct Entry {

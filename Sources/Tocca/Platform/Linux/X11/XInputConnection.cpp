@@ -122,7 +122,8 @@ std::optional<XInputConnection::Snapshot> XInputConnection::snapshot()
     constexpr std::size_t kBitsPerByte = 8;
     Snapshot snapshot;
     for (std::size_t key = 0; key < snapshot.down.size(); ++key) {
-        snapshot.down[key] = ((keys->keys[key / kBitsPerByte] >> (key % kBitsPerByte)) & 1U) != 0;
+        const unsigned byte = keys->keys[key / kBitsPerByte];
+        snapshot.down[key] = ((byte >> (key % kBitsPerByte)) & 1U) != 0;
     }
     snapshot.isLocked = (state->lockedMods & LockMask) != 0;
     snapshot.roles = rolesFrom(keysyms.get(), modifiers.get());

@@ -1,0 +1,98 @@
+#include "Audio/ImportMachine.h"
+#include "Audio/PackImporter.h"
+#include "Platform/FaultyFiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tocca::audio {
+namespace {
+
+using platform::FailAfter;
+using ThenWorks = FailAfter::ThenWorks;
+
+struct Row {
+    const char* name;
+    ThenWorks then;
+    bool canExchange;
+    bool hasOldPack = true;
+    bool newPackIsRemovedByHand = false; ///< before anybody has cleared up
+};
+
+/// Imports with the Nth step failing and looks at the disk when it works again; returns whether any step has failed.
+bool importWithFault(const Row& row, int step)
+{
+    ImportMachine machine;
+    auto& disk = machine.host;
+    if (!row.hasOldPack) {
+        static_cast<void>(disk.fileStore().removeTree(kPacks / "Alps"));
+    }
+    FailAfter fault(step, row.then);
+    platform::FaultyFiles files(disk.files(), std::ref(fault));
+    platform::FaultyFileStore store(disk.files(), disk.fileStore(), std::ref(fault));
+    store.canExchange = row.canExchange;
+
+    const bool isImported = PackImporter(files, store).import("/downloads/Alps", kPacks).hasValue();
+    const bool isRemoved = isImported && row.newPackIsRemovedByHand;
+    if (isRemoved) {
+        static_cast<void>(disk.fileStore().removeTree(kPacks / "Alps"));
+    }
+    const auto ids = machine.listedIds();
+    const auto found = machine.contents(kPacks / "Alps");
+    if (isRemoved) {
+        EXPECT_THAT(found, testing::AnyOf(FolderContents{}, kOldPack));
+    } else if (isImported) {
+        EXPECT_EQ(found, kNewPack);
+    } else {
+        EXPECT_EQ(found, row.hasOldPack ? kOldPack : FolderContents{});
+    }
+    EXPECT_EQ(ids, found.empty() ? std::vector<std::string>{} : std::vector<std::string>{"custom_Alps"});
+    EXPECT_EQ(disk.files().list(kPacks).value().size(), ids.size()) << "something was left behind";
+    EXPECT_TRUE(isImported || fault.hasFailed());
+    return fault.hasFailed();
+}
+
+TEST(PackImportUnderFaults, LeavesTheOldPackOrTheNewOneWholeWhicheverStepFails)
+{
+    constexpr Row kRows[] = {
+        // NOLINT(modernize-avoid-c-arrays)
+        {.name = "exchange, one fault", .then = ThenWorks::Everything, .canExchange = true},
+        {.name = "exchange, crash", .then = ThenWorks::Nothing, .canExchange = true},
+        {.name = "exchange, crash, removal",
+         .then = ThenWorks::Nothing,
+         .canExchange = true,
+         .newPackIsRemovedByHand = true},
+        {.name = "two steps, one fault", .then = ThenWorks::Everything, .canExchange = false},
+        {.name = "two steps, crash", .then = ThenWorks::Nothing, .canExchange = false},
+        {.name = "two steps, one fault, removal",
+         .then = ThenWorks::Everything,
+         .canExchange = false,
+         .newPackIsRemovedByHand = true},
+        {.name = "two steps, crash, removal",
+         .then = ThenWorks::Nothing,
+         .canExchange = false,
+         .newPackIsRemovedByHand = true},
+        {.name = "first import, one fault",
+         .then = ThenWorks::Everything,
+         .canExchange = true,
+         .hasOldPack = false},
+        {.name = "first import, crash", .then = ThenWorks::Nothing, .canExchange = true, .hasOldPack = false},
+    };
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.name);
+        int step = 1;
+        while (importWithFault(row, step)) {
+            SCOPED_TRACE("step " + std::to_string(step));
+            ASSERT_FALSE(HasFailure());
+            ++step;
+        }
+        EXPECT_GT(step, 20) << "an import has more steps than were tried";
+    }
+}
+
+} // namespace
+} // namespace tocca::audio

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Audio/SoundPackInfo.h"
+
+#include <filesystem>
+
+namespace tocca::latency {
+
+/// A sound pack whose one recording is a click: it begins with its first sample and ends before the next stroke, so that what
+/// was recorded tells its beginning to the frame.
+///
+/// Lifetime: the folder goes with the object.
+class ClickPack {
+public:
+    /// Errors: throws `std::runtime_error` when the files cannot be written.
+    ClickPack();
+    ~ClickPack();
+
+    ClickPack(const ClickPack&) = delete;
+    ClickPack& operator=(const ClickPack&) = delete;
+
+    [[nodiscard]] audio::SoundPackInfo info() const;
+
+private:
+    std::filesystem::path folder_;
+};
+
+} // namespace tocca::latency

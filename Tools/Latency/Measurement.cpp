@@ -1,0 +1,75 @@
+#include "Measurement.h"
+
+#include "Subject.h"
+#include "TestKit/Rehearsal.h"
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+
+namespace tocca::latency {
+
+namespace {
+
+constexpr std::chrono::seconds kDeadline{30};
+constexpr testkit::Rhythm kRhythm{.shortest = 0.06, .longest = 0.14};
+constexpr double kLongestStroke = 0.2; // seconds of recording that a stroke may need
+
+std::vector<std::uint16_t> keysFor(int strokes)
+{
+    std::vector<std::uint16_t> keys;
+    const auto ordinary = testkit::ordinaryKeys();
+    for (int i = 0; i < strokes; ++i) {
+        keys.push_back(ordinary[static_cast<std::size_t>(i) % ordinary.size()]);
+    }
+    return keys;
+}
+
+/// Fills in what the sink's monitor tells.
+void compare(const testkit::Hearing& hearing, Figures& figures)
+{
+    std::optional<double> previous;
+    for (std::size_t i = 0; i < hearing.strokes.size(); ++i) {
+        if (!hearing.ofStroke[i]) {
+            ++figures.missedStrokes;
+            previous.reset();
+            continue;
+        }
+        const double delay = hearing.ofStroke[i]->time - hearing.strokes[i].time;
+        figures.toMonitor.push_back(delay);
+        if (previous) {
+            figures.intervalError.push_back(delay - *previous);
+        }
+        previous = delay;
+    }
+    figures.spuriousSounds = static_cast<int>(hearing.others.size());
+}
+
+} // namespace
+
+Figures measure(Subject& subject, const std::string& condition, int strokes)
+{
+    testkit::XTestKeyboard keyboard;
+    const testkit::MonitorRecorder recorder(
+        std::chrono::seconds(static_cast<int>(strokes * kLongestStroke) + 60), kDeadline);
+    if (!testkit::becomesAudible(keyboard, recorder, kDeadline)) {
+        throw std::runtime_error("no key is heard");
+    }
+    (void)subject.takeTimesToFirstSample();
+    const std::uint64_t missedBefore = subject.output().missedCycles;
+
+    std::mt19937 random(5); // NOLINT(cert-msc51-cpp,cert-msc32-c): the same typing each time
+    const testkit::Hearing hearing =
+        testkit::typeAndHear(keyboard, recorder, keysFor(strokes), kRhythm, random, kDeadline);
+
+    Figures figures;
+    figures.condition = condition;
+    figures.strokes = strokes;
+    figures.quantum = subject.output().quantum;
+    figures.missedCycles = subject.output().missedCycles - missedBefore;
+    figures.toFirstSample = subject.takeTimesToFirstSample();
+    compare(hearing, figures);
+    return figures;
+}
+
+} // namespace tocca::latency
