@@ -54,6 +54,16 @@ void XServer::kill()
     process_->waitForExit(kDeadline);
 }
 
+void XServer::pause()
+{
+    process_->signal(SIGSTOP);
+}
+
+void XServer::goOn()
+{
+    process_->signal(SIGCONT);
+}
+
 void XServer::startAgain()
 {
     start(":" + number_);
