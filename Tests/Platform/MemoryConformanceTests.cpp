@@ -1,6 +1,7 @@
 #include "Platform/AudioDevicesConformance.h"
 #include "Platform/FileStoreConformance.h"
 #include "Platform/FilesConformance.h"
+#include "Platform/LoginItemConformance.h"
 #include "Platform/Memory/MemoryFileStore.h"
 #include "Platform/Memory/MemoryFiles.h"
 #include "Platform/Memory/MemoryServices.h"
@@ -36,6 +37,12 @@ private:
     memory::MemoryFileStore store_{disk_};
 };
 
+struct MemoryLoginMachine {
+    LoginItem& loginItem() { return item; }
+
+    memory::MemoryLoginItem item;
+};
+
 /// A machine on which everything has happened as soon as it was asked for.
 class MemorySoundMachine {
 public:
@@ -64,6 +71,7 @@ private:
 } // namespace
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Memory, AudioDevicesConformance, MemorySoundMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Memory, LoginItemConformance, MemoryLoginMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Memory, FilesConformance, MemoryDiskMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Memory, FileStoreConformance, MemoryDiskMachine);
 
