@@ -15,7 +15,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-constexpr double kRetry = 5.0; // seconds
+constexpr double kRetry = 2.0; // seconds
 
 WindowOwner ownerOf(const WindowFacts& window)
 {

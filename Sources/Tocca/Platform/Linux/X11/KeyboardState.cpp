@@ -40,17 +40,17 @@ std::optional<KeyTransition> KeyboardState::press(std::uint8_t key, bool isRepea
 
 std::optional<KeyTransition> KeyboardState::release(std::uint8_t key) noexcept
 {
+    const bool wasHeld = held_.test(key);
+    const bool wasReported = reported_.test(key);
     releaseSilently(key);
-    if (!reported_.test(key)) {
-        return std::nullopt;
-    }
     reported_.reset(key);
     const KeyRoles::Role& role = roles_.of(key);
-    if (role.isLock) {
-        return std::nullopt;
-    }
-    if (role.flag != 0) {
+    if (role.flag != 0 && wasHeld) {
+        // Also when its press was not reported: the flags of other events have told of it.
         return flagsChanged(role.keyCode, flags_); // the same modifier may be held on the other side
+    }
+    if (role.isLock || role.flag != 0 || !wasReported) {
+        return std::nullopt;
     }
     return KeyTransition{.type = EventType::KeyUp, .event = {.keyCode = role.keyCode, .flags = flags_}};
 }

@@ -27,7 +27,7 @@ public:
     /// `isRepeat` says that the server knows it for a repeat; so does a press of a key that is down.
     [[nodiscard]] std::optional<KeyTransition> press(std::uint8_t key, bool isRepeat) noexcept;
 
-    /// Reports nothing for a key whose press was not reported.
+    /// Reports nothing for an ordinary key whose press was not reported.
     [[nodiscard]] std::optional<KeyTransition> release(std::uint8_t key) noexcept;
 
     [[nodiscard]] std::optional<KeyTransition> setLocked(bool isLocked) noexcept;
@@ -38,8 +38,8 @@ public:
     void setLockedSilently(bool isLocked) noexcept;
     void observeSilently(const Keys& down, bool isLocked) noexcept;
 
-    /// Reports the releases and the changed lock of the silent time. Keys that went down in it stay unreported, and so do
-    /// their releases.
+    /// Reports the releases and the changed lock of the silent time. Ordinary keys that went down in it stay unreported, and
+    /// so do their releases.
     template <class Report>
     void catchUp(Report report)
     {
