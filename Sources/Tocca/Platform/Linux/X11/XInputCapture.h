@@ -46,7 +46,7 @@ private:
     void lose();
     void armTimer(double seconds) noexcept;
 
-    void dispatchEvents(bool mayRead, double arrival);
+    void dispatchEvents(bool mayRead);
     void dispatch(const xcb_generic_event_t& event, double arrival);
     void dispatchInput(const xcb_generic_event_t& event, double arrival);
     void dispatchButton(std::uint32_t button, double time);
