@@ -82,14 +82,7 @@ void LinuxAudioOutput::begin()
     // A stroke waits for this thread when it wakes the output, and a busy computer would let it wait for long.
     adoptThread("tocca-audio", ThreadRole::None, true, options_.appeal);
     grace_.once(kGrace);
-    sockets_ = std::make_unique<SocketWatch>(loop_, [this] {
-        if (pipeWire_) {
-            pipeWire_->lookNow();
-        }
-        if (pulse_) {
-            pulse_->lookNow();
-        }
-    });
+    watchSockets();
     if (!options_.usesPipeWire) {
         pipeWireAvailability_ = Availability::Absent;
         choose();
@@ -129,6 +122,11 @@ void LinuxAudioOutput::choose()
 
 void LinuxAudioOutput::superviseFrom(SoundServer before)
 {
+    if (server_.load() == SoundServer::PipeWire) {
+        sockets_.reset();
+    } else if (!sockets_) {
+        watchSockets();
+    }
     if (server_.load() == SoundServer::None) {
         inspection_.cancel();
         isGraceOver_ = false;
@@ -139,6 +137,17 @@ void LinuxAudioOutput::superviseFrom(SoundServer before)
             inspection_.every(kInspectionInterval);
         }
     }
+}
+
+void LinuxAudioOutput::watchSockets()
+{
+    sockets_ = std::make_unique<SocketWatch>(loop_, [this] {
+        for (ServerOutput* const server : {pipeWire_.get(), pulse_.get()}) {
+            if (server != nullptr) {
+                server->lookNow();
+            }
+        }
+    });
 }
 
 void LinuxAudioOutput::openPulse()

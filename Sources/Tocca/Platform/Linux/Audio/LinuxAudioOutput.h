@@ -55,6 +55,7 @@ private:
     void begin();
     void choose();
     void superviseFrom(SoundServer before);
+    void watchSockets();
     void openPulse();
     void complain();
     void setAwake(bool isAwake);
