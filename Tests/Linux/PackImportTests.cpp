@@ -197,6 +197,10 @@ TEST_F(ImportOnDisk, KeepsTheOldPackWhenTheDiskIsFull)
     EXPECT_TRUE(isOldPack());
     expectOneWholePack();
 
+    TemporaryDirectory::write(root / "large", std::string(1'000'000, 'x'));
+    EXPECT_FALSE(store.copyEntry(root / "large", packs / "large"));
+    EXPECT_FALSE(files.exists(packs / "large")) << "half a file was left";
+
     fs::remove_all(source);
     fillSource(2, 50'000);
     EXPECT_EQ(import(source), "imported Alps") << "what the failed import took is free again";
