@@ -15,7 +15,7 @@ namespace tocca::player {
 namespace {
 
 constexpr double kRate = 48000.0;
-constexpr int kQuantum = 64;
+constexpr std::size_t kQuantum = 64;
 
 class StillClock final : public platform::Clock {
 public:

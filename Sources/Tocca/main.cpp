@@ -15,9 +15,8 @@ using namespace tocca;
 /// The parts of the desktop that this build runs on, in the order in which they need each other.
 struct Desktop {
     platform::linux::LinuxHost system;
-    platform::linux::LinuxStandardOutput standardOutput;
     player::Mixer mixer{system.clock()};
-    platform::linux::LinuxAudioOutput output{standardOutput};
+    platform::linux::LinuxAudioOutput output{system.standardOutput(), {.appeal = system.appeal()}};
     player::MixerAudioPlayers players{output, system.clock(), mixer};
     platform::Host host{system.with(players)};
 };
@@ -27,6 +26,7 @@ struct Desktop {
 int main(int argc, char** argv)
 {
     setThreadRole(ThreadRole::Main);
+    platform::linux::LinuxStandardOutput::reserveDescriptors();
     QCoreApplication application(argc, argv);
     const platform::linux::TerminationSignals signals;
 

@@ -94,5 +94,30 @@ TEST(PackImportUnderFaults, LeavesTheOldPackOrTheNewOneWholeWhicheverStepFails)
     }
 }
 
+TEST(PackImportUnderFaults, PutsTheOldPackBackWhicheverStepOfThatFails)
+{
+    for (const auto then : {ThenWorks::Everything, ThenWorks::Nothing}) {
+        bool hasFailed = true;
+        for (int step = 1; hasFailed; ++step) {
+            SCOPED_TRACE("step " + std::to_string(step));
+            ImportMachine machine;
+            auto& disk = machine.host;
+            const auto abandoned = kPacks / ".tocca-import-1";
+            ASSERT_TRUE(disk.fileStore().makeDirectories(abandoned / "old"));
+            ASSERT_TRUE(disk.fileStore().move(kPacks / "Alps", abandoned / "old/Alps"));
+
+            FailAfter fault(step, then);
+            const platform::FaultyFiles files(disk.files(), std::ref(fault));
+            platform::FaultyFileStore store(disk.files(), disk.fileStore(), std::ref(fault));
+            static_cast<void>(PackLibrary(files, store).packs(kPacks));
+            hasFailed = fault.hasFailed();
+
+            EXPECT_EQ(machine.listedIds(), std::vector<std::string>{"custom_Alps"});
+            EXPECT_EQ(machine.contents(kPacks / "Alps"), kOldPack);
+            EXPECT_EQ(disk.files().list(kPacks).value().size(), 1U) << "something was left behind";
+        }
+    }
+}
+
 } // namespace
 } // namespace tocca::audio

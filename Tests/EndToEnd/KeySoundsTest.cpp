@@ -55,6 +55,7 @@ TEST_F(KeySounds, KeysSoundFromWhereTheyAre)
         {.name = "Enter", .key = KEY_ENTER, .least = 0.4, .most = 0.9},
     };
     std::vector<std::uint16_t> keys;
+    keys.reserve(rows.size());
     for (const Row& row : rows) {
         keys.push_back(row.key);
     }
@@ -82,6 +83,7 @@ TEST_F(KeySounds, EachKindOfKeySoundsWithItsOwnRecordings)
     const std::vector<PackRecording> pack = readPack(HOLY_PANDA_DIRECTORY);
     ASSERT_FALSE(pack.empty()) << HOLY_PANDA_DIRECTORY;
     std::vector<std::uint16_t> keys;
+    keys.reserve(rows.size());
     for (const Row& row : rows) {
         keys.push_back(row.key);
     }

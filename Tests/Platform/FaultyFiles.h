@@ -112,7 +112,7 @@ public:
         if (!fails_()) {
             return real_.removeTree(path);
         }
-        removeFirstLeaf(path);
+        removeLastLeaf(path);
         return failure();
     }
 
@@ -126,13 +126,13 @@ public:
 private:
     static Error failure() { return {"the disk has failed"}; }
 
-    void removeFirstLeaf(const std::filesystem::path& path)
+    void removeLastLeaf(const std::filesystem::path& path)
     {
         const auto status = real_.status(path);
         const bool isDirectory = status && status.value().kind == FileKind::Directory;
         const auto names = isDirectory ? files_.list(path) : std::vector<std::string>{};
         if (names && !names.value().empty()) {
-            removeFirstLeaf(path / names.value().front());
+            removeLastLeaf(path / names.value().back());
         } else {
             static_cast<void>(real_.removeTree(path));
         }

@@ -32,7 +32,7 @@ TEST(MixerRealtime, RenderingNeverAllocatesFreesOrLocks)
     StrokeTrace trace(64);
     stage.mixer->setTrace(&trace);
     std::atomic<int> living = 0;
-    std::vector<float> block(2 * 64);
+    std::vector<float> block(128);
     std::minstd_rand random(5);
     std::vector<VoiceTicket> tickets;
     std::uint64_t violations = 0;
@@ -85,7 +85,7 @@ TEST(MixerRealtime, StrokesMayStartAndStopWhileAnotherThreadRenders)
     std::atomic<bool> isPlaying = true;
 
     std::thread renderer([&] {
-        std::vector<float> block(2 * 64);
+        std::vector<float> block(128);
         while (isPlaying.load()) {
             const ThreadRoleScope role(ThreadRole::Render);
             stage.mixer->render(block, stage.cycle);

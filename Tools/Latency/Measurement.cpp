@@ -18,6 +18,7 @@ constexpr double kLongestStroke = 0.2; // seconds of recording that a stroke may
 std::vector<std::uint16_t> keysFor(int strokes)
 {
     std::vector<std::uint16_t> keys;
+    keys.reserve(static_cast<std::size_t>(strokes));
     const auto ordinary = testkit::ordinaryKeys();
     for (int i = 0; i < strokes; ++i) {
         keys.push_back(ordinary[static_cast<std::size_t>(i) % ordinary.size()]);

@@ -8,7 +8,9 @@
 #include <cstdlib>
 #include <exception>
 #include <memory>
+#include <string>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -20,6 +22,7 @@ constexpr int kBusyLoops = 4;
 std::vector<std::unique_ptr<testkit::Process>> startBusyLoops()
 {
     std::vector<std::unique_ptr<testkit::Process>> loops;
+    loops.reserve(kBusyLoops);
     for (int i = 0; i < kBusyLoops; ++i) {
         loops.push_back(
             std::make_unique<testkit::Process>(std::vector<std::string>{"sh", "-c", "while :; do :; done"}));

@@ -10,7 +10,7 @@
 #include "Platform/MainQueue.h"
 #include "Support/ThreadRole.h"
 
-#include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 namespace tocca::audio {
@@ -99,20 +99,27 @@ const PackTable& SoundPackLoader::loadPack(const std::string& id, const std::fil
 
 std::optional<std::filesystem::path> SoundPackLoader::builtInSoundPacksDirectory() const
 {
-    std::vector<std::filesystem::path> candidates;
+    const auto firstOf = [this](const std::filesystem::path& base,
+                                std::initializer_list<const char*> places) {
+        for (const char* const place : places) {
+            if (auto directory = base / place; host_.files.exists(directory)) {
+                return std::optional(std::move(directory));
+            }
+        }
+        return std::optional<std::filesystem::path>();
+    };
+    // Nearly every stroke ends at the first of these, so no later place is worked out before it is needed.
     if (const auto resources = host_.directories.resources()) {
-        candidates.push_back(*resources / "SoundPacks");
-        candidates.push_back(*resources / "Resources/SoundPacks");
+        if (auto found = firstOf(*resources, {"SoundPacks", "Resources/SoundPacks"})) {
+            return found;
+        }
     }
-    const auto current = host_.directories.currentWorkingDirectory();
-    candidates.push_back(current / "Sources/Tocca/Resources/SoundPacks");
-    candidates.push_back(current / "Resources/SoundPacks");
-    if (const auto support = host_.directories.applicationSupport()) {
-        candidates.push_back(*support / "Tocca/SoundPacks");
+    if (auto found = firstOf(host_.directories.currentWorkingDirectory(),
+                             {"Sources/Tocca/Resources/SoundPacks", "Resources/SoundPacks"})) {
+        return found;
     }
-    const auto found = std::find_if(candidates.begin(), candidates.end(),
-                                    [this](const auto& path) { return host_.files.exists(path); });
-    return found == candidates.end() ? std::nullopt : std::optional(*found);
+    const auto support = host_.directories.applicationSupport();
+    return support ? firstOf(*support, {"Tocca/SoundPacks"}) : std::nullopt;
 }
 
 SharedBytes SoundPackLoader::sample(const std::filesystem::path& folderURL, const std::string& packId,

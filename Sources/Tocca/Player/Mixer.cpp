@@ -124,7 +124,7 @@ bool Mixer::advance(ActiveVoice& active, std::span<float> frames, const RenderCy
             return false;
         }
         const double offset = std::round((active.startTime - cycle.beginsAt) * cycle.sampleRate);
-        if (offset >= static_cast<double>(frames.size() / 2)) {
+        if (const std::size_t count = frames.size() / 2; offset >= static_cast<double>(count)) {
             return true;
         }
         begin(active, offset, cycle);

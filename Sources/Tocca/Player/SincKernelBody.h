@@ -12,11 +12,14 @@ namespace {
 using Four [[gnu::vector_size(16)]] = float;
 using Eight [[gnu::vector_size(32)]] = float;
 
+// NOLINTBEGIN(misc-definitions-in-headers)
 constexpr int kTaps = static_cast<int>(SincTable::kTaps);
 constexpr int kRowFloats = 2 * kTaps;
 constexpr unsigned kFractionBits = 32 - SincTable::kPhaseBits;
 constexpr float kFractionUnit = 1.0F / static_cast<float>(1U << kFractionBits);
 constexpr std::uint32_t kFractionMask = (1U << kFractionBits) - 1;
+
+// NOLINTEND(misc-definitions-in-headers)
 
 template <class Vector>
 [[gnu::always_inline]] inline Vector load(const float* from) noexcept

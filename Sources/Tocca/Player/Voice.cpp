@@ -16,7 +16,8 @@ constexpr float kMaxRate = 4.0F;
 // The silence behind a recording covers one group of frames and the taps behind it at this step.
 constexpr double kMaxStep = 8.0;
 static_assert(PcmClip::kSilenceBefore >= SincTable::kTapsBefore);
-static_assert(PcmClip::kSilenceBehind >= SincRead::kGroup * 8 + SincTable::kTaps - SincTable::kTapsBefore);
+static_assert(PcmClip::kSilenceBehind >=
+              std::size_t{SincRead::kGroup} * 8 + SincTable::kTaps - SincTable::kTapsBefore);
 
 // Up to this step the highest alias of a recording at 44.1 kHz comes out at 20 kHz, where it is not heard; the full band
 // keeps strokes slightly above and below the recorded speed equally bright.

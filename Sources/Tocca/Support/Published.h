@@ -88,7 +88,8 @@ private:
         void notify(const T& value)
         {
             const auto keepAlive = this->shared_from_this();
-            const T copy = value; // an observer may assign again
+            // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): an observer may assign again
+            const T copy = value;
             const std::uint64_t end = nextId;
             for (std::uint64_t id = 0; id < end; ++id) {
                 const auto next = std::find_if(entries.begin(), entries.end(),

@@ -98,7 +98,7 @@ TEST_F(WorkspaceTest, ComesBackWithTheServer)
     prompt.reset();
     EXPECT_TRUE(hears({"Pinentry Pinentry", "nobody"}));
     EXPECT_FALSE(secureInput_.isActive()) << "what is not seen any more is not waited for";
-    server_.startAgain();
+    server_.start();
     XWindow editor({.instance = "editor", .className = "Editor"});
     editor.publishAs(kActive);
     EXPECT_TRUE(hears({"Pinentry Pinentry", "nobody", "Editor Editor"}));

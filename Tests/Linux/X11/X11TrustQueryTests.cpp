@@ -36,7 +36,7 @@ TEST(X11TrustQuery, TrustsAnXServerForAsLongAsItLives)
 
     server.kill();
     EXPECT_FALSE(query.isTrusted());
-    server.startAgain();
+    server.start();
     EXPECT_TRUE(query.isTrusted());
 }
 

@@ -223,7 +223,7 @@ TEST_F(XInputEventTap, ComesBackWithTheServerAndLeavesNoKeyStuck)
     EXPECT_EQ(listener.until("f56:20000"), "d0:0 f56:20000 ");
     server_.kill();
     EXPECT_EQ(listener.until("lost"), "lost ");
-    server_.startAgain();
+    server_.start();
     EXPECT_EQ(listener.until("f56:0"), "u0:20000 f56:0 ");
 
     testkit::XTestKeyboard another;

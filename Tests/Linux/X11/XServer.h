@@ -25,7 +25,7 @@ public:
     void goOn();
 
     /// Starts another one in its place, on the same display.
-    void startAgain();
+    void start();
 
     /// Gives the keyboard a layout option, as people do in their settings; "" for none.
     static void setLayoutOption(const std::string& option);
@@ -47,10 +47,7 @@ public:
     };
 
 private:
-    void start(const std::string& display);
-
     std::unique_ptr<testkit::Process> process_;
-    std::string number_;
 };
 
 } // namespace tocca::platform::linux

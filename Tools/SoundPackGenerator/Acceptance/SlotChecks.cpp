@@ -50,6 +50,7 @@ std::vector<Check> variantChecks(const std::vector<PackRecordings>& packs)
 Check packLoudness(const std::vector<PackRecordings>& packs)
 {
     std::vector<double> levels;
+    levels.reserve(packs.size());
     for (const PackRecordings& pack : packs) {
         levels.push_back(medianLufs(pack.standardPress()));
     }

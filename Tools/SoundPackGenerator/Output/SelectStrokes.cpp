@@ -46,8 +46,10 @@ std::vector<Candidate> candidatesOf(const Pack& pack, const Slot& slot)
 std::vector<Candidate> nearest(std::vector<Candidate> candidates, std::size_t count)
 {
     const auto isNear = [](const Candidate& c) { return c.centroidOff <= 0.06 && c.lufsOff <= 0.9; };
-    const auto far = std::ranges::stable_partition(candidates, isNear);
-    std::ranges::stable_sort(far, {}, [](const Candidate& c) { return c.centroidOff / 0.04 + c.lufsOff; });
+    const auto distance = [](const Candidate& c) { return c.centroidOff / 0.04 + c.lufsOff; };
+    const auto far = std::stable_partition(candidates.begin(), candidates.end(), isNear);
+    std::stable_sort(far, candidates.end(),
+                     [&](const Candidate& a, const Candidate& b) { return distance(a) < distance(b); });
     candidates.erase(candidates.begin() + static_cast<std::ptrdiff_t>(count), candidates.end());
     return candidates;
 }
@@ -59,6 +61,7 @@ double gainFor(const std::vector<Candidate>& chosen, const Stroke& stroke, doubl
     double gainDb = 0;
     for (int step = 0; step < kSteps; ++step) {
         std::vector<double> levels;
+        levels.reserve(chosen.size());
         for (const Candidate& candidate : chosen) {
             levels.push_back(loudness(finishUnrounded(candidate.signal, gainDb, stroke)));
         }

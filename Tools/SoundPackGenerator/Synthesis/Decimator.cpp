@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 #include <numeric>
 
@@ -13,6 +14,7 @@ namespace tocca::soundpack {
 namespace {
 
 constexpr int kHalf = 40;
+constexpr std::ptrdiff_t kLastTap = std::ptrdiff_t{2} * kHalf;
 using Taps = std::array<double, 2 * kHalf + 1>;
 
 double besselI0(double x)
@@ -51,9 +53,10 @@ std::vector<double> decimate(const std::vector<double>& force)
     std::vector<double> slow(force.size() / kOversampling);
     for (std::size_t n = 0; n < slow.size(); ++n) {
         const auto newest = static_cast<std::ptrdiff_t>(n) * kOversampling + kHalf;
+        const std::ptrdiff_t first = std::max<std::ptrdiff_t>(0, newest - size + 1);
+        const std::ptrdiff_t last = std::min(kLastTap, newest);
         double sum = 0;
-        for (std::ptrdiff_t i = std::max<std::ptrdiff_t>(0, newest - size + 1);
-             i <= std::min<std::ptrdiff_t>(2 * kHalf, newest); ++i) {
+        for (std::ptrdiff_t i = first; i <= last; ++i) {
             sum += taps[static_cast<std::size_t>(i)] * force[static_cast<std::size_t>(newest - i)];
         }
         slow[n] = sum;

@@ -44,10 +44,10 @@ public:
     /// Where the windows hand in what they receive.
     [[nodiscard]] LinuxLocalMonitors& localMonitors() noexcept { return localMonitors_; }
 
-private:
     /// Passes a thread that the kernel refused on to RealtimeKit, by way of the main thread.
     [[nodiscard]] SchedulingAppeal appeal();
 
+private:
     LinuxTimers timers_;
     LinuxMainQueue mainQueue_{timers_};
     ToolkitLoop loop_{mainQueue_, timers_};

@@ -34,7 +34,7 @@ app_module(tocca_linux_audio
         Platform/Linux/Audio/QuantumGovernor.h
         Platform/Linux/Audio/ServerOutput.h
         Platform/Linux/Audio/SocketWatch.h
-    DEPENDS tocca_platform
+    DEPENDS tocca_platform tocca_linux_system
     PRIVATE_DEPENDS PkgConfig::PIPEWIRE PkgConfig::PULSE)
 
 # PipeWire's method calls are macros with casts of C.

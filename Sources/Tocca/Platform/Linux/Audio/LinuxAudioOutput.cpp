@@ -2,6 +2,9 @@
 
 #include "Platform/Linux/Audio/PipeWireOutput.h"
 #include "Platform/Linux/Audio/PulseOutput.h"
+#include "Platform/Linux/System/Scheduling.h"
+
+#include <utility>
 
 namespace tocca::platform::linux {
 
@@ -26,7 +29,7 @@ bool isMissing(Availability availability)
 
 LinuxAudioOutput::LinuxAudioOutput(StandardOutput& standardOutput, LinuxAudioOutputOptions options)
     : standardOutput_(standardOutput)
-    , options_(options)
+    , options_(std::move(options))
     , wakeEvent_(loop_, [this] { wake(); })
     , begin_(loop_, [this] { begin(); })
     , grace_(loop_,
@@ -35,7 +38,7 @@ LinuxAudioOutput::LinuxAudioOutput(StandardOutput& standardOutput, LinuxAudioOut
                  choose();
              })
     , inspection_(loop_, [this] { inspect(); })
-    , gate_(options.idleSeconds, [this] { wakeEvent_.signal(); })
+    , gate_(options_.idleSeconds, [this] { wakeEvent_.signal(); })
 {}
 
 LinuxAudioOutput::~LinuxAudioOutput()
@@ -76,15 +79,10 @@ AudioOutputState LinuxAudioOutput::state() const noexcept
 
 void LinuxAudioOutput::begin()
 {
+    // A stroke waits for this thread when it wakes the output, and a busy computer would let it wait for long.
+    adoptThread("tocca-audio", ThreadRole::None, true, options_.appeal);
     grace_.once(kGrace);
-    sockets_ = std::make_unique<SocketWatch>(loop_, [this] {
-        if (pipeWire_) {
-            pipeWire_->lookNow();
-        }
-        if (pulse_) {
-            pulse_->lookNow();
-        }
-    });
+    watchSockets();
     if (!options_.usesPipeWire) {
         pipeWireAvailability_ = Availability::Absent;
         choose();
@@ -124,6 +122,11 @@ void LinuxAudioOutput::choose()
 
 void LinuxAudioOutput::superviseFrom(SoundServer before)
 {
+    if (server_.load() == SoundServer::PipeWire) {
+        sockets_.reset();
+    } else if (!sockets_) {
+        watchSockets();
+    }
     if (server_.load() == SoundServer::None) {
         inspection_.cancel();
         isGraceOver_ = false;
@@ -134,6 +137,17 @@ void LinuxAudioOutput::superviseFrom(SoundServer before)
             inspection_.every(kInspectionInterval);
         }
     }
+}
+
+void LinuxAudioOutput::watchSockets()
+{
+    sockets_ = std::make_unique<SocketWatch>(loop_, [this] {
+        for (ServerOutput* const server : {pipeWire_.get(), pulse_.get()}) {
+            if (server != nullptr) {
+                server->lookNow();
+            }
+        }
+    });
 }
 
 void LinuxAudioOutput::openPulse()

@@ -5,6 +5,7 @@
 #include "Platform/Linux/Audio/OutputMeter.h"
 #include "Platform/Linux/Audio/ServerOutput.h"
 #include "Platform/Linux/Audio/SocketWatch.h"
+#include "Platform/Linux/System/Scheduling.h"
 #include "Platform/StandardOutput.h"
 #include "Player/AudioOutput.h"
 
@@ -17,8 +18,9 @@ namespace tocca::platform::linux {
 enum class SoundServer { None, PipeWire, PulseAudio };
 
 struct LinuxAudioOutputOptions {
-    double idleSeconds = 30.0; ///< without activity, after which the output is released
-    bool usesPipeWire = true;  ///< false: PulseAudio's protocol alone
+    double idleSeconds = 30.0;    ///< without activity, after which the output is released
+    bool usesPipeWire = true;     ///< false: PulseAudio's protocol alone
+    SchedulingAppeal appeal = {}; ///< for the thread that wakes a released output
 };
 
 /// What an output is doing.
@@ -53,6 +55,7 @@ private:
     void begin();
     void choose();
     void superviseFrom(SoundServer before);
+    void watchSockets();
     void openPulse();
     void complain();
     void setAwake(bool isAwake);

@@ -1,6 +1,7 @@
 #include "Platform/Linux/Audio/SocketWatch.h"
 
 #include <sys/inotify.h>
+#include <sys/types.h>
 #include <unistd.h>
 
 #include <array>
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace tocca::platform::linux {
@@ -20,6 +22,12 @@ std::string runtimeDirectory()
 {
     const char* const directory = std::getenv("XDG_RUNTIME_DIR"); // NOLINT(concurrency-mt-unsafe)
     return directory != nullptr ? directory : "";
+}
+
+/// Whether a server listens at what is called `name`; other programs put much else there.
+bool isOfServer(std::string_view name)
+{
+    return name.starts_with("pipewire-") || name == "pulse" || name == "native";
 }
 
 } // namespace
@@ -43,11 +51,19 @@ SocketWatch::SocketWatch(ControlLoop& loop, std::function<void()> call)
 void SocketWatch::drain()
 {
     alignas(inotify_event) std::array<std::byte, 4096> events{};
-    while (read(descriptor_, events.data(), events.size()) > 0) {
+    bool isServer = false;
+    for (ssize_t size = 0; (size = read(descriptor_, events.data(), events.size())) > 0;) {
+        for (std::size_t at = 0; at < static_cast<std::size_t>(size);) {
+            const auto* const event = reinterpret_cast<const inotify_event*>(events.data() + at);
+            isServer = isServer || (event->len > 0 && isOfServer(static_cast<const char*>(event->name)));
+            at += sizeof(inotify_event) + event->len;
+        }
     }
-    // PulseAudio listens in a directory of its own, which may have appeared just now.
-    watchServerDirectory();
-    call_();
+    if (isServer) {
+        // PulseAudio listens in a directory of its own, which may have appeared just now.
+        watchServerDirectory();
+        call_();
+    }
 }
 
 void SocketWatch::watchServerDirectory()

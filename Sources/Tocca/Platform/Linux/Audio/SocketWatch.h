@@ -7,7 +7,8 @@
 
 namespace tocca::platform::linux {
 
-/// Calls when a sound server may have begun to listen: when something appears in the session's runtime directory.
+/// Calls when a sound server may have begun to listen: when the socket of one
+/// appears in the session's runtime directory.
 ///
 /// Threads: control. Errors: without a runtime directory, or where it cannot be watched, it never calls.
 class SocketWatch {

@@ -83,13 +83,12 @@ void XInputCapture::setEnabled(bool isEnabled)
 
 void XInputCapture::serveServer()
 {
-    const double arrival = clock_.now(); // before anything else: it bounds the time of what is read now
     isServing_ = true;
-    dispatchEvents(true, arrival);
+    dispatchEvents(true);
     if (const auto roles = connection_->takeLayout()) {
         keys_.setRoles(*roles);
     }
-    dispatchEvents(false, arrival); // sending a question may have read events on the way
+    dispatchEvents(false); // sending a question may have read events on the way
     if (!connection_->isAlive()) {
         lose();
     }
@@ -158,7 +157,7 @@ bool XInputCapture::beginListening()
         keys_.adopt(snapshot->down, snapshot->isLocked);
     }
     // What arrived together with the answer does not make the descriptor readable again.
-    dispatchEvents(false, now);
+    dispatchEvents(false);
     return true;
 }
 
@@ -188,10 +187,12 @@ void XInputCapture::armTimer(double seconds) noexcept
     ::timerfd_settime(timer_.get(), 0, &when, nullptr);
 }
 
-void XInputCapture::dispatchEvents(bool mayRead, double arrival)
+void XInputCapture::dispatchEvents(bool mayRead)
 {
     // One read a turn: what it leaves behind makes the descriptor readable again.
-    for (auto event = connection_->nextEvent(mayRead); event; event = connection_->nextEvent(false)) {
+    auto event = connection_->nextEvent(mayRead);
+    const double arrival = clock_.now(); // not before the read, which also finds what has happened just now
+    for (; event; event = connection_->nextEvent(false)) {
         // Whoever disables the tap finds it so at once. What is missed now is made up for when it is enabled again.
         isListening_ = isListening_ && isWanted_.load(std::memory_order_acquire);
         const auto age = static_cast<std::int32_t>(event->full_sequence - firstSequence_);

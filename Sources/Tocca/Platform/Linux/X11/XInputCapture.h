@@ -48,7 +48,7 @@ private:
     void lose();
     void armTimer(double seconds) noexcept;
 
-    void dispatchEvents(bool mayRead, double arrival);
+    void dispatchEvents(bool mayRead);
     void dispatch(const xcb_generic_event_t& event, double arrival);
     void dispatchInput(const xcb_generic_event_t& event, double arrival);
     void dispatchLock(bool isLocked, double time);

@@ -1,0 +1,146 @@
+#pragma once
+
+#include "Audio/AudioEngine.h"
+#include "Audio/SoundPackLoader.h"
+#include "Keyboard/KeyboardMonitor.h"
+#include "Platform/Host.h"
+#include "Platform/Linux/System/LinuxClock.h"
+#include "Platform/Linux/System/LinuxMainQueue.h"
+#include "Platform/Linux/System/LinuxSerialQueues.h"
+#include "Platform/Linux/System/LinuxTimers.h"
+#include "Platform/Memory/MemoryHost.h"
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include <poll.h>
+
+namespace tocca::testkit {
+
+/// Players that cost nothing, so that what is left is the road to them.
+class SilentPlayers final : public platform::AudioPlayers {
+public:
+    [[nodiscard]] Result<std::unique_ptr<platform::AudioPlayer>> make(const SharedBytes&) override
+    {
+        return std::unique_ptr<platform::AudioPlayer>(std::make_unique<Player>(played_));
+    }
+
+    [[nodiscard]] std::uint64_t played() const noexcept { return played_.load(); }
+
+private:
+    class Player final : public platform::AudioPlayer {
+    public:
+        explicit Player(std::atomic<std::uint64_t>& played)
+            : played_(played)
+        {}
+
+        void setEnableRate(bool) override {}
+
+        void setRate(float) override {}
+
+        void setVolume(float) override {}
+
+        void setPan(float) override {}
+
+        void prepareToPlay() override {}
+
+        void play(std::optional<double>) override { ++played_; }
+
+    private:
+        std::atomic<std::uint64_t>& played_;
+    };
+
+    std::atomic<std::uint64_t> played_{0};
+};
+
+/// A tap whose events the caller delivers, on a thread that plays the capture thread.
+class HandDeliveredTaps final : public platform::EventTaps {
+public:
+    [[nodiscard]] std::unique_ptr<platform::EventTap> create(platform::EventMask,
+                                                             platform::EventHandler handler) override
+    {
+        handler_ = std::move(handler);
+        return std::make_unique<Tap>();
+    }
+
+    void deliver(platform::EventType type, const platform::InputEvent& event) { handler_(type, event); }
+
+private:
+    class Tap final : public platform::EventTap {
+    public:
+        [[nodiscard]] std::unique_ptr<platform::RunLoopSource> attachToCurrentThread() override
+        {
+            return nullptr;
+        }
+
+        void setEnabled(bool) override {}
+    };
+
+    platform::EventHandler handler_;
+};
+
+/// Monitor and engine on the real queues, between a tap delivered by hand and players that do nothing.
+///
+/// Threads: made, served and destroyed on one thread, which plays the main one; `strike` on any other.
+class StrokePath {
+public:
+    StrokePath()
+    {
+        memory_.files().write("/app/resources/SoundPacks/holy-panda/press.wav", "press");
+        memory_.settle(); // lets the capture thread's body make its tap
+    }
+
+    /// Delivers a press and its release. Threads: one that plays the capture thread.
+    void strike(std::uint16_t keyCode)
+    {
+        const platform::InputEvent event{.keyCode = keyCode, .time = clock_.now()};
+        taps_.deliver(platform::EventType::KeyDown, event);
+        taps_.deliver(platform::EventType::KeyUp, event);
+    }
+
+    /// Waits for tasks of the main queue for up to `milliseconds` and runs them. Threads: main.
+    void serveMain(int milliseconds)
+    {
+        pollfd polled{.fd = mainQueue_.fd(), .events = POLLIN, .revents = 0};
+        if (::poll(&polled, 1, milliseconds) > 0) {
+            mainQueue_.runReady();
+        }
+    }
+
+    [[nodiscard]] keyboard::KeyboardMonitor& monitor() noexcept { return monitor_; }
+
+    [[nodiscard]] const SilentPlayers& players() const noexcept { return players_; }
+
+private:
+    platform::memory::MemoryHost memory_;
+    platform::linux::LinuxTimers timers_;
+    platform::linux::LinuxMainQueue mainQueue_{timers_};
+    platform::linux::LinuxSerialQueues serialQueues_;
+    platform::linux::LinuxClock clock_;
+    HandDeliveredTaps taps_;
+    SilentPlayers players_;
+    platform::Host host_{.mainQueue = mainQueue_,
+                         .serialQueues = serialQueues_,
+                         .threads = memory_.threads(),
+                         .timers = memory_.timers(),
+                         .clock = clock_,
+                         .eventTaps = taps_,
+                         .localMonitors = memory_.localMonitors(),
+                         .trustQuery = memory_.trustQuery(),
+                         .audioPlayers = players_,
+                         .haptics = memory_.haptics(),
+                         .workspace = memory_.workspace(),
+                         .directories = memory_.directories(),
+                         .files = memory_.files(),
+                         .fileStore = memory_.fileStore(),
+                         .random = memory_.random(),
+                         .standardOutput = memory_.standardOutput()};
+    audio::SoundPackLoader loader_{host_};
+    audio::AudioEngine engine_{host_, loader_, [] { return false; }};
+    keyboard::KeyboardMonitor monitor_{host_, engine_};
+};
+
+} // namespace tocca::testkit
