@@ -18,7 +18,7 @@ public:
     LaunchAtLogin& operator=(const LaunchAtLogin&) = delete;
 
     /// The instance on the default host.
-    [[nodiscard]] static LaunchAtLogin& shared();
+    static LaunchAtLogin& shared();
 
     Published<bool> isEnabled{false}; ///< as last seen or successfully set
 

@@ -15,6 +15,8 @@ namespace {
 constexpr double kMicrophonePoll = 1.5; // seconds
 constexpr const char* kMicrophoneReason = "Microphone in use (Call in progress)";
 
+std::atomic<const SmartMuteManager*> sharedInstance{nullptr}; // main -> any
+
 } // namespace
 
 SmartMuteManager::SmartMuteManager(platform::Host& host)
@@ -33,7 +35,14 @@ SmartMuteManager::~SmartMuteManager() = default;
 SmartMuteManager& SmartMuteManager::shared()
 {
     static auto& instance = *new SmartMuteManager(platform::defaultHost());
+    sharedInstance.store(&instance, std::memory_order_release);
     return instance;
+}
+
+bool SmartMuteManager::isSharedMutedNow() noexcept
+{
+    const SmartMuteManager* const instance = sharedInstance.load(std::memory_order_acquire);
+    return instance != nullptr && instance->isMutedNow();
 }
 
 void SmartMuteManager::setupWorkspaceMonitoring()

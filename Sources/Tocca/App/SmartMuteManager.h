@@ -31,7 +31,10 @@ public:
     ~SmartMuteManager();
 
     /// The instance on the default host.
-    [[nodiscard]] static SmartMuteManager& shared();
+    static SmartMuteManager& shared();
+
+    /// The verdict of the shared instance, false until it has been made. Threads: any. Real-time: wait-free.
+    [[nodiscard]] static bool isSharedMutedNow() noexcept REALTIME;
 
     Published<bool> autoMuteOnCalls{true};     ///< heed the microphone and call programs
     Published<bool> muteOnSensitiveApps{true}; ///< heed password managers

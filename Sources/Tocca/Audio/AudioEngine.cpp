@@ -65,8 +65,9 @@ AudioEngine::AudioEngine(platform::Host& host, SoundPackLoader& loader, MuteQuer
 
 AudioEngine& AudioEngine::shared()
 {
+    // The capture thread may ask before the main thread has come to make the manager.
     static auto& instance = *new AudioEngine(platform::defaultHost(), SoundPackLoader::shared(),
-                                             [] { return app::SmartMuteManager::shared().isMutedNow(); });
+                                             &app::SmartMuteManager::isSharedMutedNow);
     return instance;
 }
 
