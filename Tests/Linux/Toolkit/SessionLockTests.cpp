@@ -50,7 +50,7 @@ protected:
         address_ = QString::fromStdString(bus_.output().substr(0, bus_.output().find(',')));
     }
 
-    ~SessionLockTest() override
+    void TearDown() override
     {
         for (const QString& name : names_) {
             QDBusConnection::disconnectFromBus(name);

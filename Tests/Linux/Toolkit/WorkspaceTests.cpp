@@ -26,7 +26,7 @@ constexpr const char* kActive = "_NET_ACTIVE_WINDOW";
 
 class WorkspaceTest : public ::testing::Test {
 protected:
-    WorkspaceTest()
+    void SetUp() override
     {
         ::setenv("XDG_DATA_HOME", data_.path().c_str(), 1);
         ::setenv("LC_ALL", "de_DE.UTF-8", 1);
@@ -35,7 +35,7 @@ protected:
                                   "[Desktop Entry]\nName=KeePassXC\nName[de]=Schlüsselbund\n");
     }
 
-    ~WorkspaceTest() override
+    void TearDown() override
     {
         ::unsetenv("XDG_DATA_HOME");
         ::unsetenv("LC_ALL");

@@ -77,7 +77,9 @@ std::optional<std::string> DesktopEntry::localizedText(const std::string& key,
                                                        const std::vector<std::string>& locales) const
 {
     for (const std::string& locale : locales) {
-        if (auto value = text(key + '[' + locale + ']')) {
+        std::string localized = key;
+        localized.append("[").append(locale).append("]");
+        if (auto value = text(localized)) {
             return value;
         }
     }
@@ -102,8 +104,10 @@ std::vector<std::string> localeVariants(std::string_view locale)
     const std::string language(base.substr(0, base.find('_')));
     const std::string country(base.substr(language.size()));
     std::vector<std::string> variants;
-    for (const std::string& variant :
-         {language + country + modifier, language + country, language + modifier, language}) {
+    std::string whole = language + country;
+    const std::string plain = whole;
+    whole += modifier;
+    for (const std::string& variant : {whole, plain, language + modifier, language}) {
         if (!variant.empty() && std::find(variants.begin(), variants.end(), variant) == variants.end()) {
             variants.push_back(variant);
         }

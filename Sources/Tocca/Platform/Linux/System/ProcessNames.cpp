@@ -91,10 +91,10 @@ std::string applicationOfControlGroup(const std::string& path)
             // "snap.<snap>.<application>-<number>.scope": the desktop calls it <snap>_<application>
             std::string rest(unit.substr(kSnapUnit.size()));
             const std::size_t dot = rest.find('.');
-            const std::string snap = rest.substr(0, dot);
+            std::string snap = rest.substr(0, dot);
             std::string application = dot == std::string::npos ? snap : rest.substr(dot + 1);
             application = application.substr(0, application.find_first_of(".-"));
-            return snap + '_' + application;
+            return snap.append("_").append(application);
         }
     }
     return {};

@@ -39,7 +39,6 @@ constexpr std::array kNames{
     // Passphrases of keys and key rings
     std::string_view("gcr-prompter*"),
     std::string_view("gnome-ssh-askpass*"),
-    std::string_view("kwallet-query"),
     std::string_view("kwalletd*"),
     std::string_view("ksshaskpass"),
     std::string_view("lxqt-openssh-askpass"),
@@ -47,7 +46,6 @@ constexpr std::array kNames{
     std::string_view("seahorse-ssh-askpass"),
     std::string_view("ssh-askpass*"),
     std::string_view("x11-ssh-askpass"),
-    std::string_view("zulucrypt*"),
     // Leave to act as somebody else
     std::string_view("gksu*"),
     std::string_view("kdesu*"),
