@@ -2,6 +2,9 @@ find_package(simdjson REQUIRED)
 
 app_module(tocca_core
     SOURCES
+        App/LaunchAtLogin.cpp
+        App/SensitiveApplications.cpp
+        App/SmartMuteManager.cpp
         Audio/AcousticCatalogues.cpp
         Audio/AudioEngine.cpp
         Audio/PackImporter.cpp
@@ -16,6 +19,9 @@ app_module(tocca_core
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
     HEADERS
+        App/LaunchAtLogin.h
+        App/SensitiveApplications.h
+        App/SmartMuteManager.h
         Audio/AcousticCatalogues.h
         Audio/AudioEngine.h
         Audio/AudioSettings.h

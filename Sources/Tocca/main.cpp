@@ -1,3 +1,5 @@
+#include "App/LaunchAtLogin.h"
+#include "App/SmartMuteManager.h"
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 #include "Platform/Linux/LinuxHost.h"
@@ -36,6 +38,8 @@ int main(int argc, char** argv)
     desktop.output.start(desktop.mixer);
 
     auto& monitor = keyboard::KeyboardMonitor::shared();
+    app::LaunchAtLogin::shared();
+    app::SmartMuteManager::shared();
     const int status = QCoreApplication::exec();
     monitor.stop();
     return status;

@@ -1,5 +1,6 @@
 #include "Audio/AudioEngine.h"
 
+#include "App/SmartMuteManager.h"
 #include "Audio/RandomDraws.h"
 #include "Audio/SoundPackLoader.h"
 #include "Platform/Clock.h"
@@ -64,8 +65,9 @@ AudioEngine::AudioEngine(platform::Host& host, SoundPackLoader& loader, MuteQuer
 
 AudioEngine& AudioEngine::shared()
 {
-    static auto& instance =
-        *new AudioEngine(platform::defaultHost(), SoundPackLoader::shared(), [] { return false; });
+    // The capture thread may ask before the main thread has come to make the manager.
+    static auto& instance = *new AudioEngine(platform::defaultHost(), SoundPackLoader::shared(),
+                                             &app::SmartMuteManager::isSharedMutedNow);
     return instance;
 }
 

@@ -2,6 +2,7 @@
 
 namespace tocca::platform {
 
+class AudioDevices;
 class AudioPlayers;
 class Clock;
 class Directories;
@@ -10,6 +11,7 @@ class Files;
 class FileStore;
 class Haptics;
 class LocalMonitors;
+class LoginItem;
 class MainQueue;
 class Random;
 class SerialQueues;
@@ -30,8 +32,10 @@ struct Host {
     LocalMonitors& localMonitors;
     TrustQuery& trustQuery;
     AudioPlayers& audioPlayers;
+    AudioDevices& audioDevices;
     Haptics& haptics;
     Workspace& workspace;
+    LoginItem& loginItem;
     Directories& directories;
     Files& files;
     FileStore& fileStore;

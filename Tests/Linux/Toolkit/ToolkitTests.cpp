@@ -1,13 +1,9 @@
-#include "Platform/Linux/System/LinuxClock.h"
-#include "Platform/Linux/System/LinuxMainQueue.h"
-#include "Platform/Linux/System/LinuxTimers.h"
 #include "Platform/Linux/Toolkit/LinuxWorkspace.h"
-#include "Platform/Linux/Toolkit/ToolkitLoop.h"
 #include "Platform/MainQueueAndTimersConformance.h"
 
 #include "Linux/TemporaryDirectory.h"
+#include "Linux/Toolkit/ToolkitMachine.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 
 #include <cstdlib>
@@ -17,47 +13,7 @@ namespace tocca::platform {
 
 namespace {
 
-/// The toolkit's application object, of which a process has one.
-QCoreApplication& application()
-{
-    static int argumentCount = 1;
-    static char name[] = "tests";      // NOLINT(modernize-avoid-c-arrays)
-    static char* arguments[] = {name}; // NOLINT(modernize-avoid-c-arrays)
-    static QCoreApplication application(argumentCount, arguments);
-    return application;
-}
-
-/// The Linux main queue and timers on the toolkit's loop.
-class ToolkitMachine {
-public:
-    MainQueue& mainQueue() { return queue_; }
-
-    Timers& timers() { return timers_; }
-
-    Clock& clock() { return clock_; }
-
-    template <class Predicate>
-    bool runUntil(Predicate predicate)
-    {
-        constexpr double kDeadline = 20.0; // seconds
-        const double end = clock_.now() + kDeadline;
-        const auto beat = timers_.scheduleRepeating(0.001, [] {});
-        while (!predicate()) {
-            if (clock_.now() > end) {
-                return false;
-            }
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
-        return true;
-    }
-
-private:
-    QCoreApplication& application_ = application();
-    linux::LinuxClock clock_;
-    linux::LinuxTimers timers_;
-    linux::LinuxMainQueue queue_{timers_};
-    linux::ToolkitLoop loop_{queue_, timers_};
-};
+using linux::ToolkitMachine;
 
 } // namespace
 
@@ -99,9 +55,10 @@ TEST(LinuxWorkspace, HandsAUrlToTheDesktopsOpenerAsOneArgument)
     const std::string path = std::getenv("PATH");
     ::setenv("PATH", directory.path().c_str(), 1);
 
-    LinuxWorkspace workspace;
-    EXPECT_TRUE(workspace.openUrl("https://example.org/a?b=$(id)&c=%20;d"));
     ToolkitMachine machine;
+    SecureInput secureInput;
+    LinuxWorkspace workspace(secureInput, machine.timers());
+    EXPECT_TRUE(workspace.openUrl("https://example.org/a?b=$(id)&c=%20;d"));
     ASSERT_TRUE(machine.runUntil([&] { return std::filesystem::exists(record); }));
     std::ifstream input(record);
     std::string text;

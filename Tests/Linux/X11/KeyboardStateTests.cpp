@@ -140,6 +140,33 @@ TEST(KeyboardState, ReleasesWhatWentUpWhileNothingWasHeard)
     EXPECT_EQ(textOf(keys.release(xKey(KEY_LEFTCTRL))), "f59:10000");
 }
 
+TEST(KeyboardState, MakesUpForASilentTimeAndForgetsWhatWasTypedInIt)
+{
+    KeyboardState keys;
+    EXPECT_TRUE(keys.press(xKey(KEY_A), false));
+    EXPECT_TRUE(keys.press(xKey(KEY_S), false));
+    EXPECT_TRUE(keys.press(xKey(KEY_LEFTSHIFT), false));
+    keys.releaseSilently(xKey(KEY_A));
+    keys.releaseSilently(xKey(KEY_S));
+    keys.releaseSilently(xKey(KEY_LEFTSHIFT));
+    keys.pressSilently(xKey(KEY_S)); // down again, as far as anybody knows it never was up
+    keys.pressSilently(xKey(KEY_D));
+    keys.releaseSilently(xKey(KEY_D));
+    keys.pressSilently(xKey(KEY_F));
+    keys.pressSilently(xKey(KEY_LEFTMETA));
+    std::string reported;
+    const auto report = [&](const KeyTransition& transition) { reported += textOf(transition) + ' '; };
+    keys.catchUp(report);
+    EXPECT_EQ(reported, "u0 f56:0 ") << "what went down since must not make the release look like a press";
+    EXPECT_EQ(keys.press(xKey(KEY_G), false)->event.flags, 0x100000U);
+    EXPECT_EQ(textOf(keys.release(xKey(KEY_F))), "-");
+    EXPECT_EQ(textOf(keys.release(xKey(KEY_LEFTMETA))), "f55:0");
+    EXPECT_EQ(textOf(keys.release(xKey(KEY_S))), "u1");
+    reported.clear();
+    keys.catchUp(report);
+    EXPECT_EQ(reported, "");
+}
+
 } // namespace
 
 } // namespace tocca::platform::linux

@@ -59,6 +59,16 @@ void XServer::kill()
     process_->waitForExit(kDeadline);
 }
 
+void XServer::pause()
+{
+    process_->signal(SIGSTOP);
+}
+
+void XServer::goOn()
+{
+    process_->signal(SIGCONT);
+}
+
 void XServer::setLayoutOption(const std::string& option)
 {
     // The empty option comes first, because options add up.

@@ -20,6 +20,10 @@ public:
     /// Ends the server without a farewell.
     void kill();
 
+    /// Makes the server answer nobody until it is told to go on.
+    void pause();
+    void goOn();
+
     /// Starts another one in its place, on the same display.
     void start();
 

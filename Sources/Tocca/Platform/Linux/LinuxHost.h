@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Platform/Host.h"
+#include "Platform/Linux/Applications/LinuxLoginItem.h"
+#include "Platform/Linux/Audio/LinuxAudioDevices.h"
 #include "Platform/Linux/System/LinuxClock.h"
 #include "Platform/Linux/System/LinuxDirectories.h"
 #include "Platform/Linux/System/LinuxFileStore.h"
@@ -14,7 +16,9 @@
 #include "Platform/Linux/System/LinuxThreads.h"
 #include "Platform/Linux/System/LinuxTimers.h"
 #include "Platform/Linux/Toolkit/LinuxWorkspace.h"
+#include "Platform/Linux/Toolkit/SessionLock.h"
 #include "Platform/Linux/Toolkit/ToolkitLoop.h"
+#include "Platform/Linux/X11/SecureInput.h"
 #include "Platform/Linux/X11/X11TrustQuery.h"
 #include "Platform/Linux/X11/XInputEventTaps.h"
 
@@ -50,12 +54,16 @@ private:
     LinuxSerialQueues serialQueues_{appeal()};
     LinuxThreads threads_{appeal()};
     LinuxClock clock_;
-    XInputEventTaps eventTaps_;
+    SecureInput secureInput_;
+    SessionLock sessionLock_{secureInput_};
+    XInputEventTaps eventTaps_{[this] { return !secureInput_.isActive(); }};
     LinuxLocalMonitors localMonitors_;
     LinuxStandardOutput standardOutput_;
     X11TrustQuery trustQuery_{standardOutput_};
+    LinuxAudioDevices audioDevices_;
     LinuxHaptics haptics_;
-    LinuxWorkspace workspace_;
+    LinuxWorkspace workspace_{secureInput_, timers_};
+    LinuxLoginItem loginItem_;
     LinuxDirectories directories_;
     LinuxFiles files_;
     LinuxFileStore fileStore_;

@@ -1,10 +1,16 @@
 # What the kernel and the C library alone provide; builds without any desktop library.
 app_module(tocca_linux_system
     SOURCES
+        Platform/Linux/Applications/DesktopEntries.cpp
+        Platform/Linux/Applications/DesktopEntry.cpp
+        Platform/Linux/Applications/KnownApplications.cpp
+        Platform/Linux/Applications/LinuxLoginItem.cpp
+        Platform/Linux/Applications/WindowOwner.cpp
         Platform/Linux/System/Doorbell.cpp
         Platform/Linux/System/FileCopy.cpp
         Platform/Linux/System/FileDescriptor.cpp
         Platform/Linux/System/FileError.cpp
+        Platform/Linux/System/FileReplacement.cpp
         Platform/Linux/System/LinuxClock.cpp
         Platform/Linux/System/LinuxDirectories.cpp
         Platform/Linux/System/LinuxFileStore.cpp
@@ -16,14 +22,21 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxStandardOutput.cpp
         Platform/Linux/System/LinuxThreads.cpp
         Platform/Linux/System/LinuxTimers.cpp
+        Platform/Linux/System/ProcessNames.cpp
         Platform/Linux/System/RunLoop.cpp
         Platform/Linux/System/Scheduling.cpp
         Platform/Linux/System/WakeDescriptor.cpp
     HEADERS
+        Platform/Linux/Applications/DesktopEntries.h
+        Platform/Linux/Applications/DesktopEntry.h
+        Platform/Linux/Applications/KnownApplications.h
+        Platform/Linux/Applications/LinuxLoginItem.h
+        Platform/Linux/Applications/WindowOwner.h
         Platform/Linux/System/Doorbell.h
         Platform/Linux/System/FileCopy.h
         Platform/Linux/System/FileDescriptor.h
         Platform/Linux/System/FileError.h
+        Platform/Linux/System/FileReplacement.h
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxDirectories.h
         Platform/Linux/System/LinuxFileStore.h
@@ -36,6 +49,8 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxStandardOutput.h
         Platform/Linux/System/LinuxThreads.h
         Platform/Linux/System/LinuxTimers.h
+        Platform/Linux/System/LowerCase.h
+        Platform/Linux/System/ProcessNames.h
         Platform/Linux/System/RunLoop.h
         Platform/Linux/System/Scheduling.h
         Platform/Linux/System/WakeDescriptor.h

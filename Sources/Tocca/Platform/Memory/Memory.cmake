@@ -7,6 +7,7 @@ app_module(tocca_memory
         Platform/Memory/MemoryFiles.cpp
         Platform/Memory/MemoryHost.cpp
         Platform/Memory/MemoryQueues.cpp
+        Platform/Memory/MemoryServices.cpp
         Platform/Memory/MemoryThreads.cpp
         Platform/Memory/MemoryTimers.cpp
         Platform/Memory/VirtualTime.cpp

@@ -4,21 +4,6 @@
 
 namespace tocca::platform::memory {
 
-std::uint64_t MemoryRandom::next()
-{
-    if (!scripted_.empty()) {
-        const std::uint64_t value = scripted_.front();
-        scripted_.pop_front();
-        return value;
-    }
-    // splitmix64 (Steele, Lea and Flood 2014)
-    state_ += 0x9E3779B97F4A7C15;
-    std::uint64_t z = state_;
-    z = (z ^ (z >> 30U)) * 0xBF58476D1CE4E5B9;
-    z = (z ^ (z >> 27U)) * 0x94D049BB133111EB;
-    return z ^ (z >> 31U);
-}
-
 MemoryHost::MemoryHost()
     : threads_(time_)
     , mainQueue_(time_)
@@ -36,8 +21,10 @@ MemoryHost::MemoryHost()
           .localMonitors = localMonitors_,
           .trustQuery = trustQuery_,
           .audioPlayers = audioPlayers_,
+          .audioDevices = audioDevices_,
           .haptics = haptics_,
           .workspace = workspace_,
+          .loginItem = loginItem_,
           .directories = directories_,
           .files = files_,
           .fileStore = fileStore_,

@@ -47,6 +47,10 @@ public:
 
     [[nodiscard]] MemoryAudioPlayers& audioPlayers() noexcept { return audioPlayers_; }
 
+    [[nodiscard]] MemoryAudioDevices& audioDevices() noexcept { return audioDevices_; }
+
+    [[nodiscard]] MemoryLoginItem& loginItem() noexcept { return loginItem_; }
+
     [[nodiscard]] MemoryHaptics& haptics() noexcept { return haptics_; }
 
     [[nodiscard]] MemoryWorkspace& workspace() noexcept { return workspace_; }
@@ -71,6 +75,8 @@ private:
     MemoryLocalMonitors localMonitors_;
     MemoryTrustQuery trustQuery_;
     MemoryAudioPlayers audioPlayers_;
+    MemoryAudioDevices audioDevices_;
+    MemoryLoginItem loginItem_;
     MemoryHaptics haptics_;
     MemoryWorkspace workspace_;
     MemoryDirectories directories_;

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "Platform/AudioDevices.h"
 #include "Platform/Haptics.h"
+#include "Platform/LoginItem.h"
 #include "Platform/Random.h"
 #include "Platform/StandardOutput.h"
 #include "Platform/TrustQuery.h"
 #include "Platform/Workspace.h"
 
 #include <deque>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +38,44 @@ public:
     int pulseCount = 0;
 };
 
+/// A sound server whose microphones a test plugs in and records from.
+class MemoryAudioDevices : public AudioDevices {
+public:
+    [[nodiscard]] Result<std::vector<AudioDevice>> devices() const override;
+
+    /// Adds a device, or replaces the one of that name.
+    void plugIn(const AudioDevice& device);
+    void unplug(const std::string& name);
+
+    /// A program begins or ends to record from the device, which is plugged in as a microphone if it is not yet.
+    void startCapture(const std::string& name) { plugIn({name, true, true}); }
+
+    void stopCapture(const std::string& name) { plugIn({name, true, false}); }
+
+    bool isServerRunning = true;
+    mutable int queryCount = 0;
+
+private:
+    std::vector<AudioDevice> devices_;
+};
+
+/// A login item that a test can make refuse, or change behind the program's back.
+class MemoryLoginItem : public LoginItem {
+public:
+    [[nodiscard]] LoginItemStatus status() const override { return currentStatus; }
+
+    Outcome registerItem() override { return change(LoginItemStatus::Enabled); }
+
+    Outcome unregisterItem() override { return change(LoginItemStatus::NotRegistered); }
+
+    LoginItemStatus currentStatus = LoginItemStatus::NotRegistered;
+    std::optional<std::string> refusal; ///< when set, changes fail with it
+
+private:
+    Outcome change(LoginItemStatus status);
+};
+
+/// A desktop on which a test brings applications to the front.
 class MemoryWorkspace : public Workspace {
 public:
     bool openUrl(const std::string& url) override
@@ -42,7 +84,21 @@ public:
         return true;
     }
 
+    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override
+    {
+        return frontmost_;
+    }
+
+    [[nodiscard]] Subscription onActivation(ActivationHandler handler) override;
+
+    /// Brings `application` to the front, or leaves nothing there that the desktop could name.
+    void activate(const std::optional<RunningApplication>& application);
+
     std::vector<std::string> openedUrls;
+
+private:
+    std::optional<RunningApplication> frontmost_;
+    std::vector<std::weak_ptr<ActivationHandler>> handlers_;
 };
 
 /// Random bits that are the same on every run, or exactly those a test asks for.

@@ -26,10 +26,10 @@ void run(void* call)
 
 } // namespace
 
-ControlLoop::ControlLoop()
+ControlLoop::ControlLoop(const char* threadName)
 {
     pw_init(nullptr, nullptr);
-    loop_ = pw_thread_loop_new("tocca-audio", nullptr);
+    loop_ = pw_thread_loop_new(threadName, nullptr);
 }
 
 ControlLoop::~ControlLoop()

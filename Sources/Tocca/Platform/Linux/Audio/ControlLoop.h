@@ -8,13 +8,14 @@ struct spa_source;
 
 namespace tocca::platform::linux {
 
-/// The thread on which the sound servers are looked for, connected to and watched.
+/// A thread on which sound servers are looked for, connected to and watched.
 ///
 /// Threads: `ControlLoop` itself: main. What runs on it (events, timers, watches): control, unless said otherwise.
 /// Lifetime: outlives every event, timer and watch made on it; those end on the control thread or after `stop`.
 class ControlLoop {
 public:
-    ControlLoop();
+    /// `threadName` is kept to 15 bytes.
+    explicit ControlLoop(const char* threadName = "tocca-audio");
     ~ControlLoop();
     ControlLoop(const ControlLoop&) = delete;
     ControlLoop& operator=(const ControlLoop&) = delete;

@@ -1,7 +1,10 @@
 #include "Platform/Linux/System/LinuxDirectories.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdlib>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -42,6 +45,39 @@ std::optional<std::filesystem::path> homeInUserDatabase()
     return std::filesystem::path(found->pw_dir);
 }
 
+/// The directory that `variable` names, or the one below the user's home.
+std::optional<std::filesystem::path> userDirectory(const char* variable, const char* belowHome)
+{
+    if (auto named = absolutePathIn(variable)) {
+        return named;
+    }
+    auto home = absolutePathIn("HOME");
+    if (!home) {
+        home = homeInUserDatabase();
+    }
+    return home ? std::optional(*home / belowHome) : std::nullopt;
+}
+
+/// `own` and the directories that `variable` lists, each with `below`.
+std::vector<std::filesystem::path> searched(const std::optional<std::filesystem::path>& own,
+                                            const char* variable, const char* fallback, const char* below)
+{
+    std::vector<std::filesystem::path> directories;
+    if (own) {
+        directories.push_back(*own / below);
+    }
+    const char* const value = std::getenv(variable); // NOLINT(concurrency-mt-unsafe)
+    std::string_view list = value != nullptr && *value != '\0' ? value : fallback;
+    while (!list.empty()) {
+        const std::size_t end = std::min(list.find(':'), list.size());
+        if (list.starts_with('/')) {
+            directories.push_back(std::filesystem::path(list.substr(0, end)) / below);
+        }
+        list.remove_prefix(std::min(end + 1, list.size()));
+    }
+    return directories;
+}
+
 } // namespace
 
 LinuxDirectories::LinuxDirectories()
@@ -72,17 +108,20 @@ std::filesystem::path LinuxDirectories::currentWorkingDirectory() const
 
 std::optional<std::filesystem::path> LinuxDirectories::applicationSupport() const
 {
-    if (auto data = absolutePathIn("XDG_DATA_HOME")) {
-        return data;
-    }
-    auto home = absolutePathIn("HOME");
-    if (!home) {
-        home = homeInUserDatabase();
-    }
-    if (!home) {
-        return std::nullopt;
-    }
-    return *home / ".local" / "share";
+    return userDirectory("XDG_DATA_HOME", ".local/share");
+}
+
+std::vector<std::filesystem::path> autostartDirectories()
+{
+    const auto own = userDirectory("XDG_CONFIG_HOME", ".config");
+    return own ? searched(own, "XDG_CONFIG_DIRS", "/etc/xdg", "autostart")
+               : std::vector<std::filesystem::path>();
+}
+
+std::vector<std::filesystem::path> applicationDirectories()
+{
+    return searched(userDirectory("XDG_DATA_HOME", ".local/share"), "XDG_DATA_DIRS",
+                    "/usr/local/share:/usr/share", "applications");
 }
 
 } // namespace tocca::platform::linux

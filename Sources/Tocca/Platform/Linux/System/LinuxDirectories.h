@@ -2,6 +2,8 @@
 
 #include "Platform/Directories.h"
 
+#include <vector>
+
 namespace tocca::platform::linux {
 
 /// Directories as a build tree, an installation and the XDG base directory rules place them.
@@ -23,5 +25,12 @@ public:
 private:
     std::filesystem::path programDirectory_;
 };
+
+/// Where the desktop looks for what starts with the session, the user's own directory first; none when the system does not
+/// even name the user's home. Threads: any.
+[[nodiscard]] std::vector<std::filesystem::path> autostartDirectories();
+
+/// Where the desktop looks for installed programs, the user's own directory first. Threads: any.
+[[nodiscard]] std::vector<std::filesystem::path> applicationDirectories();
 
 } // namespace tocca::platform::linux

@@ -27,10 +27,30 @@ public:
     /// `isRepeat` says that the server knows it for a repeat; so does a press of a key that is down.
     [[nodiscard]] std::optional<KeyTransition> press(std::uint8_t key, bool isRepeat) noexcept;
 
-    /// Reports nothing for a key whose press was not seen.
+    /// Reports nothing for an ordinary key whose press was not reported.
     [[nodiscard]] std::optional<KeyTransition> release(std::uint8_t key) noexcept;
 
     [[nodiscard]] std::optional<KeyTransition> setLocked(bool isLocked) noexcept;
+
+    /// The same while nothing may be reported. What it leaves behind is for `catchUp`.
+    void pressSilently(std::uint8_t key) noexcept;
+    void releaseSilently(std::uint8_t key) noexcept;
+    void setLockedSilently(bool isLocked) noexcept;
+    void observeSilently(const Keys& down, bool isLocked) noexcept;
+
+    /// Reports the releases and the changed lock of the silent time. Ordinary keys that went down in it stay unreported, and
+    /// so do their releases.
+    template <class Report>
+    void catchUp(Report report)
+    {
+        const Keys released = reported_ & ~held_;
+        for (std::size_t key = 0; released.any() && key < released.size(); ++key) {
+            if (released.test(key)) {
+                reportIf(reportRelease(static_cast<std::uint8_t>(key)), report);
+            }
+        }
+        reportIf(setLocked(isLocked_), report);
+    }
 
     /// Begins with these keys down, of which nothing is reported.
     void adopt(const Keys& down, bool isLocked) noexcept;
@@ -40,14 +60,9 @@ public:
     template <class Report>
     void resynchronize(const Keys& down, bool isLocked, Report report)
     {
-        const Keys released = held_ & ~down;
-        for (std::size_t key = 0; key < released.size(); ++key) {
-            if (released.test(key)) {
-                reportIf(release(static_cast<std::uint8_t>(key)), report);
-            }
-        }
-        adopt(down, isLocked_);
-        reportIf(setLocked(isLocked), report);
+        observeSilently(down, isLocked);
+        catchUp(report);
+        reported_ = down;
     }
 
 private:
@@ -61,12 +76,15 @@ private:
         }
     }
 
+    [[nodiscard]] std::optional<KeyTransition> reportRelease(std::uint8_t key) noexcept;
+    [[nodiscard]] std::uint64_t flagsOf(const Keys& held, bool isLocked) const noexcept;
     void updateFlags() noexcept;
-    [[nodiscard]] KeyTransition flagsChanged(std::uint16_t keyCode) const noexcept;
 
     KeyRoles roles_;
     Keys held_;
+    Keys reported_; // down as far as anybody was told
     bool isLocked_ = false;
+    bool isLockReported_ = false;
     std::uint64_t flags_ = 0;
     std::uint16_t lockKeyCode_ = kUsualLockKey; // of the lock key that was pressed last
 };

@@ -148,7 +148,9 @@ bool XInputCapture::beginListening()
     firstSequence_ = snapshot->sequence;
     const double now = clock_.now();
     keys_.setRoles(snapshot->roles);
-    if (std::exchange(hasListened_, true)) {
+    if (!mayReportKeys(now)) {
+        keys_.observeSilently(snapshot->down, snapshot->isLocked);
+    } else if (std::exchange(hasListened_, true)) {
         keys_.resynchronize(snapshot->down, snapshot->isLocked,
                             [this, now](const KeyTransition& transition) { deliver(transition, now); });
     } else {
@@ -212,10 +214,18 @@ void XInputCapture::dispatch(const xcb_generic_event_t& event, double arrival)
         const auto& state = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
         if (state.xkbType != XCB_XKB_STATE_NOTIFY) {
             connection_->askLayout();
-        } else if (const auto transition = keys_.setLocked((state.lockedMods & LockMask) != 0);
-                   transition && mayReportKeys()) {
-            deliver(*transition, timeOfEvent(arrival, state.time));
+        } else {
+            dispatchLock((state.lockedMods & LockMask) != 0, timeOfEvent(arrival, state.time));
         }
+    }
+}
+
+void XInputCapture::dispatchLock(bool isLocked, double time)
+{
+    if (!mayReportKeys(time)) {
+        keys_.setLockedSilently(isLocked);
+    } else if (const auto transition = keys_.setLocked(isLocked)) {
+        deliver(*transition, time);
     }
 }
 
@@ -227,18 +237,20 @@ void XInputCapture::dispatchInput(const xcb_generic_event_t& event, double arriv
     }
     const double time = timeOfEvent(arrival, raw.time);
     const auto key = static_cast<std::uint8_t>(raw.detail);
+    const bool mayReport = mayReportKeys(time);
     switch (raw.event_type) {
     case XCB_INPUT_RAW_KEY_PRESS:
-        // A key pressed while its like are withheld stays unknown, so that its release is withheld too.
-        if (mayReportKeys()) {
-            const bool isRepeat = (raw.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0;
-            if (const auto transition = keys_.press(key, isRepeat)) {
-                deliver(*transition, time);
-            }
+        if (!mayReport) {
+            keys_.pressSilently(key);
+        } else if (const auto transition =
+                       keys_.press(key, (raw.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0)) {
+            deliver(*transition, time);
         }
         break;
     case XCB_INPUT_RAW_KEY_RELEASE:
-        if (const auto transition = keys_.release(key)) {
+        if (!mayReport) {
+            keys_.releaseSilently(key);
+        } else if (const auto transition = keys_.release(key)) {
             deliver(*transition, time);
         }
         break;
@@ -293,9 +305,16 @@ void XInputCapture::deliver(EventType type, const InputEvent& event)
     }
 }
 
-bool XInputCapture::mayReportKeys() const
+bool XInputCapture::mayReportKeys(double time)
 {
-    return !gate_ || gate_();
+    if (gate_ && !gate_()) {
+        isBehind_ = true;
+        return false;
+    }
+    if (std::exchange(isBehind_, false)) {
+        keys_.catchUp([this, time](const KeyTransition& transition) { deliver(transition, time); });
+    }
+    return true;
 }
 
 } // namespace tocca::platform::linux

@@ -14,8 +14,10 @@ namespace tocca::platform::linux {
 
 class RunLoop;
 
-/// Says whether keys may be reported just now; consulted for every key on the capture thread, so it must not wait.
-/// An empty one stands for always.
+/// Says whether keys may be reported just now; consulted for every event on the capture thread, so it must not wait.
+///
+/// While it is closed no key is reported, not even the release of one that is down; with the first event after it has opened,
+/// the releases of the time between are. An empty one stands for always.
 using KeyGate = std::function<bool()>;
 
 /// What an event tap shares with the loop that serves it.
@@ -49,10 +51,11 @@ private:
     void dispatchEvents(bool mayRead);
     void dispatch(const xcb_generic_event_t& event, double arrival);
     void dispatchInput(const xcb_generic_event_t& event, double arrival);
+    void dispatchLock(bool isLocked, double time);
     void dispatchButton(std::uint32_t button, double time);
     void deliver(const KeyTransition& transition, double time);
     void deliver(EventType type, const InputEvent& event);
-    [[nodiscard]] bool mayReportKeys() const;
+    [[nodiscard]] bool mayReportKeys(double time);
 
     const EventMask mask_;
     const EventHandler handler_;
@@ -67,6 +70,7 @@ private:
     bool isListening_ = false;
     bool hasListened_ = false;
     bool isServing_ = false;
+    bool isBehind_ = false;           // keys were withheld, and have not been caught up with
     std::uint32_t firstSequence_ = 0; // of the events that count
     double lastAttempt_ = 0.0;        // seconds; when a lost server was last looked for
     KeyboardState keys_;

@@ -1,0 +1,196 @@
+#include "Platform/Linux/X11/PromptWatch.h"
+
+#include "Platform/Linux/System/ProcessNames.h"
+#include "Platform/Linux/X11/SecretPrompts.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <utility>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+constexpr std::uint8_t kSentByClient = 0x80;
+
+bool isPrompt(const WindowFacts& facts)
+{
+    if (isSecretPrompt(facts.instance) || isSecretPrompt(facts.className)) {
+        return true;
+    }
+    const ProcessNames names = ProcessNames::of(facts.process);
+    return isSecretPromptProcess(names.kernel) || isSecretPrompt(names.command) ||
+           isSecretPrompt(names.executable);
+}
+
+} // namespace
+
+PromptWatch::PromptWatch(xcb_connection_t* connection, xcb_window_t root, XQuestions& questions,
+                         const WindowInquiry& inquiry, Observer observer)
+    : connection_(connection)
+    , root_(root)
+    , questions_(questions)
+    , inquiry_(inquiry)
+    , observer_(std::move(observer))
+{}
+
+void PromptWatch::begin()
+{
+    askFocus();
+    askCovers();
+}
+
+void PromptWatch::handle(const xcb_generic_event_t& event)
+{
+    switch (event.response_type & ~kSentByClient) {
+    case XCB_FOCUS_IN:
+    case XCB_FOCUS_OUT:
+        focusChanged(reinterpret_cast<const xcb_focus_out_event_t&>(event).mode);
+        break;
+    case XCB_MAP_NOTIFY:
+        if (const auto& map = reinterpret_cast<const xcb_map_notify_event_t&>(event);
+            map.override_redirect != 0 && map.event == root_) {
+            coverAppeared(map.window);
+        }
+        break;
+    case XCB_UNMAP_NOTIFY:
+        coverVanished(reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window);
+        break;
+    case XCB_DESTROY_NOTIFY:
+        coverVanished(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
+        break;
+    case XCB_REPARENT_NOTIFY:
+        coverVanished(reinterpret_cast<const xcb_reparent_notify_event_t&>(event).window);
+        break;
+    default:
+        break;
+    }
+}
+
+void PromptWatch::setFront(const std::optional<WindowFacts>& front)
+{
+    isFrontPrompt_ = front && isPrompt(*front);
+    judge();
+}
+
+void PromptWatch::askFocus()
+{
+    questions_.ask<xcb_get_input_focus_reply_t>(xcb_get_input_focus(connection_),
+                                                [this](const xcb_get_input_focus_reply_t* reply) {
+                                                    if (reply != nullptr) {
+                                                        focusFound(reply->focus);
+                                                    }
+                                                });
+}
+
+void PromptWatch::focusFound(xcb_window_t window)
+{
+    if (window == focus_) {
+        return;
+    }
+    const auto listenTo = [this](xcb_window_t to, std::uint32_t events) {
+        if (to > XCB_INPUT_FOCUS_POINTER_ROOT && to != root_) { // the root's own are always heard
+            xcb_change_window_attributes(connection_, to, XCB_CW_EVENT_MASK, &events);
+        }
+    };
+    listenTo(focus_, XCB_EVENT_MASK_NO_EVENT);
+    listenTo(window, XCB_EVENT_MASK_FOCUS_CHANGE);
+    focus_ = window;
+    askFocus(); // it may have moved on before its events were listened to
+    if (window <= XCB_INPUT_FOCUS_POINTER_ROOT || window == root_) {
+        isFocusPrompt_ = false;
+        judge();
+        return;
+    }
+    inquiry_.ask(window, [this, window](const WindowFacts& facts) {
+        if (window == focus_) {
+            isFocusPrompt_ = isPrompt(facts);
+            judge();
+        }
+    });
+}
+
+void PromptWatch::focusChanged(std::uint8_t mode)
+{
+    const bool isGrabbed = mode == XCB_NOTIFY_MODE_GRAB || mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
+    if (isGrabbed != isGrabbed_) {
+        isGrabbed_ = isGrabbed;
+        isPromptOpen_ = false;
+        ++grab_;
+        if (isGrabbed) {
+            askOpenPrompts();
+        }
+        judge();
+    }
+    askFocus();
+}
+
+void PromptWatch::askOpenPrompts()
+{
+    questions_.askProperty(root_, inquiry_.clientList(), [this, grab = grab_](const std::string& value) {
+        for (std::size_t at = 0; at + sizeof(xcb_window_t) <= value.size() && grab == grab_;
+             at += sizeof(xcb_window_t)) {
+            xcb_window_t window = XCB_WINDOW_NONE;
+            std::memcpy(&window, value.data() + at, sizeof(window));
+            inquiry_.ask(window, [this, grab](const WindowFacts& facts) {
+                if (grab == grab_ && isPrompt(facts)) {
+                    isPromptOpen_ = true;
+                    judge();
+                }
+            });
+        }
+    });
+}
+
+void PromptWatch::askCovers()
+{
+    questions_.ask<xcb_query_tree_reply_t>(
+        xcb_query_tree(connection_, root_), [this](const xcb_query_tree_reply_t* tree) {
+            const int count = tree != nullptr ? xcb_query_tree_children_length(tree) : 0;
+            for (int i = 0; i < count; ++i) {
+                const xcb_window_t window = xcb_query_tree_children(tree)[i];
+                questions_.ask<xcb_get_window_attributes_reply_t>(
+                    xcb_get_window_attributes(connection_, window),
+                    [this, window](const xcb_get_window_attributes_reply_t* attributes) {
+                        if (attributes != nullptr && attributes->override_redirect != 0 &&
+                            attributes->map_state == XCB_MAP_STATE_VIEWABLE) {
+                            coverAppeared(window);
+                        }
+                    });
+            }
+        });
+}
+
+void PromptWatch::coverAppeared(xcb_window_t window)
+{
+    const std::uint64_t number = nextNumber_++;
+    covers_[window] = {.number = number};
+    inquiry_.ask(window, [this, window, number](const WindowFacts& facts) {
+        const auto cover = covers_.find(window);
+        if (cover != covers_.end() && cover->second.number == number) {
+            cover->second.isPrompt = isPrompt(facts);
+            judge();
+        }
+    });
+}
+
+void PromptWatch::coverVanished(xcb_window_t window)
+{
+    if (covers_.erase(window) > 0) {
+        judge();
+    }
+}
+
+void PromptWatch::judge()
+{
+    const bool isPrompting =
+        isFrontPrompt_ || isFocusPrompt_ || (isGrabbed_ && isPromptOpen_) ||
+        std::any_of(covers_.begin(), covers_.end(), [](const auto& entry) { return entry.second.isPrompt; });
+    if (std::exchange(isPrompting_, isPrompting) != isPrompting) {
+        observer_(isPrompting);
+    }
+}
+
+} // namespace tocca::platform::linux
