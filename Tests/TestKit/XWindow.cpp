@@ -55,8 +55,8 @@ void XWindow::takeFocus()
     bool isViewable = false;
     while (!isViewable) { // a window manager shows it in its own time
         const Owned<xcb_get_window_attributes_reply_t> attributes(
-            xcb_get_window_attributes_reply(
-                connection_.get(), xcb_get_window_attributes(connection_.get(), window_), nullptr),
+            xcb_get_window_attributes_reply(connection_.get(),
+                                            xcb_get_window_attributes(connection_.get(), window_), nullptr),
             std::free);
         isViewable = attributes == nullptr || attributes->map_state == XCB_MAP_STATE_VIEWABLE;
     }
@@ -83,8 +83,8 @@ void XWindow::activate()
 
 void XWindow::publishAs(const char* property)
 {
-    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(property), XCB_ATOM_WINDOW, 32, 1,
-                        &window_);
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(property), XCB_ATOM_WINDOW, 32,
+                        1, &window_);
     synchronize();
 }
 
@@ -104,8 +104,8 @@ bool XWindow::grabKeyboard()
 {
     const auto cookie = xcb_grab_keyboard(connection_.get(), 0, window_, XCB_CURRENT_TIME,
                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const Owned<xcb_grab_keyboard_reply_t> reply(
-        xcb_grab_keyboard_reply(connection_.get(), cookie, nullptr), std::free);
+    const Owned<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(connection_.get(), cookie, nullptr),
+                                                 std::free);
     return reply != nullptr && reply->status == XCB_GRAB_STATUS_SUCCESS;
 }
 

@@ -15,9 +15,9 @@ namespace tocca::testkit {
 class XWindow {
 public:
     struct Traits {
-        std::string instance;            ///< of WM_CLASS
-        std::string className;           ///< of WM_CLASS
-        bool overridesRedirect = false;  ///< keeps window managers away
+        std::string instance;           ///< of WM_CLASS
+        std::string className;          ///< of WM_CLASS
+        bool overridesRedirect = false; ///< keeps window managers away
     };
 
     /// Makes a window and shows it.

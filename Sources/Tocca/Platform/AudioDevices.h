@@ -10,8 +10,8 @@ namespace tocca::platform {
 /// One device of the sound server, as it is right now.
 struct AudioDevice {
     std::string name;
-    bool hasInputStreams = false;      ///< it can record
-    bool isRunningSomewhere = false;   ///< any program records from it
+    bool hasInputStreams = false;    ///< it can record
+    bool isRunningSomewhere = false; ///< any program records from it
 };
 
 /// The sound server's devices. What listens to a loudspeaker (monitors, level meters, effect daemons) is no input.

@@ -10,8 +10,9 @@ namespace tocca::platform {
 
 /// A program with windows, as the desktop knows it.
 struct RunningApplication {
-    std::optional<std::string> bundleIdentifier; ///< as in Platform/README.md; none when the program is not known
-    std::optional<std::string> localizedName;    ///< the program's own name, for people
+    std::optional<std::string>
+        bundleIdentifier; ///< as in Platform/README.md; none when the program is not known
+    std::optional<std::string> localizedName; ///< the program's own name, for people
 
     bool operator==(const RunningApplication&) const = default;
 };

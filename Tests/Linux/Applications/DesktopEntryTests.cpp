@@ -41,6 +41,7 @@ TEST(DesktopEntry, PrefersTheUsersLanguage)
     EXPECT_EQ(localeVariants("C"), (Locales{"C"}));
 
     const DesktopEntry entry("[Desktop Entry]\nName=Keys\nName[de]=Schlüssel\nName[sr@latin]=Ključevi\n");
+
     const struct {
         const char* locale;
         const char* name;
@@ -49,6 +50,7 @@ TEST(DesktopEntry, PrefersTheUsersLanguage)
                  {"sr_RS.UTF-8@latin", "Ključevi"},
                  {"fr_FR.UTF-8", "Keys"},
                  {"C.UTF-8", "Keys"}};
+
     for (const auto& row : kRows) {
         EXPECT_EQ(entry.localizedText("Name", localeVariants(row.locale)), row.name) << row.locale;
     }

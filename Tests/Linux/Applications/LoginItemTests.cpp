@@ -69,8 +69,7 @@ TEST_F(LoginItemTest, WritesAnEntryThatStartsThisProgram)
     const DesktopEntry written(read(entry));
     EXPECT_EQ(written.text("Type"), "Application");
     EXPECT_EQ(written.text("TryExec"), program.native());
-    EXPECT_EQ(written.text("Exec"),
-              "\"" + directory.path().native() + "/a \\$dir \\\"100%%\\\"/tocca\"");
+    EXPECT_EQ(written.text("Exec"), "\"" + directory.path().native() + "/a \\$dir \\\"100%%\\\"/tocca\"");
     EXPECT_EQ(std::distance(fs::directory_iterator(user), {}), 1) << "nothing is left of the way there";
 }
 
@@ -89,6 +88,7 @@ TEST_F(LoginItemTest, BelievesTheFileWhoeverChangedIt)
         {"program there", "TryExec=" + escapedText(program.native()) + "\n", LoginItemStatus::Enabled},
         {"program gone", "TryExec=/nowhere/tocca\n", LoginItemStatus::NotFound},
     };
+
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.name);
         writeEntry(user, row.lines);

@@ -54,7 +54,9 @@ TEST_F(WindowOwnerTest, IsFoundByWhateverTellsMost)
         const char* known;
     } kRows[] = {
         // NOLINT(modernize-avoid-c-arrays)
-        {"end of an entry's id", {{}, {"keepassxc", "KeePassXC"}, ""}, "com.apple.keychainaccess (KeePassXC)"},
+        {"end of an entry's id",
+         {{}, {"keepassxc", "KeePassXC"}, ""},
+         "com.apple.keychainaccess (KeePassXC)"},
         {"application id",
          {{"", "", "org.gnome.seahorse.Application"}, {"seahorse", "Seahorse"}, ""},
          "com.apple.keychainaccess (Passwords and Keys)"},
@@ -106,6 +108,7 @@ TEST(ProcessNames, TellWhatAProcessIsCalled)
 TEST(ProcessNames, KnowASandboxByItsControlGroup)
 {
     const std::string kSlice = "0::/user.slice/user-1000.slice/user@1000.service/app.slice/";
+
     const struct {
         const char* group;
         const char* application;
@@ -119,6 +122,7 @@ TEST(ProcessNames, KnowASandboxByItsControlGroup)
         {"vte-spawn-1.scope", ""},
         {"", ""},
     };
+
     for (const auto& row : kRows) {
         EXPECT_EQ(applicationOfControlGroup(kSlice + row.group), row.application) << row.group;
     }

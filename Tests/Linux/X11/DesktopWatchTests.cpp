@@ -230,8 +230,9 @@ TEST_F(DesktopWatchTest, TellsThatTheServerIsLost)
 
 TEST(SecretPrompts, AreKnownByWholeNamesAndByFamilies)
 {
-    for (const char* const name : {"i3lock", "i3lock-color", "pinentry", "Pinentry-Qt", "gcr-prompter", "Ksshaskpass",
-                                   "polkit-kde-authentication-agent-1", "lxqt-openssh-askpass", "XScreenSaver"}) {
+    for (const char* const name :
+         {"i3lock", "i3lock-color", "pinentry", "Pinentry-Qt", "gcr-prompter", "Ksshaskpass",
+          "polkit-kde-authentication-agent-1", "lxqt-openssh-askpass", "XScreenSaver"}) {
         EXPECT_TRUE(isSecretPrompt(name)) << name;
     }
     for (const char* const name : {"", "slocker", "xterm", "polkitd", "gnome-terminal", "my-pinentry"}) {
@@ -239,7 +240,8 @@ TEST(SecretPrompts, AreKnownByWholeNamesAndByFamilies)
         EXPECT_FALSE(isSecretPromptProcess(name)) << name;
     }
     // As the kernel cuts them off
-    for (const char* const name : {"kscreenlocker_g", "polkit-mate-aut", "gnome-screensav", "slock", "lxqt-openssh-as"}) {
+    for (const char* const name :
+         {"kscreenlocker_g", "polkit-mate-aut", "gnome-screensav", "slock", "lxqt-openssh-as"}) {
         EXPECT_TRUE(isSecretPromptProcess(name)) << name;
     }
     EXPECT_FALSE(isSecretPrompt("kscreenlocker_g"));
