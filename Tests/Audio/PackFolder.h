@@ -36,7 +36,7 @@ inline FolderContents contentsOf(const platform::Files& files, const platform::F
         case platform::FileKind::Directory:
             contents[name] = "(folder)";
             for (const auto& [below, text] : contentsOf(files, store, path)) {
-                contents[name + "/" + below] = text;
+                contents[(std::filesystem::path(name) / below).string()] = text;
             }
             break;
         case platform::FileKind::Link:

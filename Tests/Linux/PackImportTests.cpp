@@ -262,6 +262,7 @@ TEST_F(ImportOnDisk, ReplacesAndCopiesWhatIsProtectedAgainstWriting)
     fs::permissions(source / "folder 0", kReadOnly);
     fs::permissions(packs / "Alps/sub", kReadOnly);
     EXPECT_EQ(importAsOrdinaryUser(source), "imported Alps");
+    EXPECT_THAT(files.list(packs).value(), ElementsAre("Alps")) << "the old pack was left behind";
     expectOneWholePack();
     EXPECT_FALSE(isOldPack());
 

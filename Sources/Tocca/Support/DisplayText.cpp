@@ -91,11 +91,9 @@ std::string displayText(std::string_view bytes, std::size_t mostCodePoints)
         }
         endOfLastButOne = text.size();
         const Decoded next = decodeFirst(bytes);
-        if (!next.isValid) {
-            text += kReplacement;
-        } else if (breaksTheLine(next.codePoint)) {
+        if (next.isValid && breaksTheLine(next.codePoint)) {
             text += ' ';
-        } else if (isControl(next.codePoint) || reordersText(next.codePoint)) {
+        } else if (!next.isValid || isControl(next.codePoint) || reordersText(next.codePoint)) {
             text += kReplacement;
         } else {
             text += bytes.substr(0, next.length);
