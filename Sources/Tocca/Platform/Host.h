@@ -2,6 +2,7 @@
 
 namespace tocca::platform {
 
+class Application;
 class AudioDevices;
 class AudioPlayers;
 class Clock;
@@ -12,13 +13,21 @@ class FileStore;
 class Haptics;
 class LocalMonitors;
 class LoginItem;
+class MainMenu;
 class MainQueue;
+class OpenPanels;
+class Panels;
+class Popovers;
 class Random;
+class Screens;
 class SerialQueues;
 class StandardOutput;
+class StatusBar;
 class Threads;
 class Timers;
 class TrustQuery;
+class UserDefaults;
+class Windows;
 class Workspace;
 
 /// Every service that the controllers may ask of the system they run on. Lifetime: outlives every controller.
@@ -41,6 +50,15 @@ struct Host {
     FileStore& fileStore;
     Random& random;
     StandardOutput& standardOutput;
+    Application& application;
+    Screens& screens;
+    Windows& windows;
+    Panels& panels;
+    Popovers& popovers;
+    StatusBar& statusBar;
+    MainMenu& mainMenu;
+    OpenPanels& openPanels;
+    UserDefaults& userDefaults;
 };
 
 /// Names the host that the `shared` controllers are built on. Threads: main, once, before any of them is used.

@@ -1,6 +1,7 @@
 app_module(tocca_memory
     SOURCES
         Platform/Memory/MemoryAudioPlayers.cpp
+        Platform/Memory/MemoryDesktop.cpp
         Platform/Memory/MemoryEventTaps.cpp
         Platform/Memory/MemoryDisk.cpp
         Platform/Memory/MemoryFileStore.cpp
@@ -13,6 +14,7 @@ app_module(tocca_memory
         Platform/Memory/VirtualTime.cpp
     HEADERS
         Platform/Memory/MemoryAudioPlayers.h
+        Platform/Memory/MemoryDesktop.h
         Platform/Memory/MemoryEventTaps.h
         Platform/Memory/MemoryDisk.h
         Platform/Memory/MemoryFileStore.h

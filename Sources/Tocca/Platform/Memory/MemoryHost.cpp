@@ -30,6 +30,15 @@ MemoryHost::MemoryHost()
           .fileStore = fileStore_,
           .random = random_,
           .standardOutput = standardOutput_,
+          .application = application_,
+          .screens = screens_,
+          .windows = windows_,
+          .panels = panels_,
+          .popovers = popovers_,
+          .statusBar = statusBar_,
+          .mainMenu = mainMenu_,
+          .openPanels = openPanels_,
+          .userDefaults = userDefaults_,
       }
 {
     setThreadRole(ThreadRole::Main);

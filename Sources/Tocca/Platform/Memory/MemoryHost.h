@@ -2,6 +2,7 @@
 
 #include "Platform/Host.h"
 #include "Platform/Memory/MemoryAudioPlayers.h"
+#include "Platform/Memory/MemoryDesktop.h"
 #include "Platform/Memory/MemoryEventTaps.h"
 #include "Platform/Memory/MemoryFileStore.h"
 #include "Platform/Memory/MemoryFiles.h"
@@ -65,6 +66,27 @@ public:
 
     [[nodiscard]] MemoryStandardOutput& standardOutput() noexcept { return standardOutput_; }
 
+    [[nodiscard]] MemoryApplication& application() noexcept { return application_; }
+
+    [[nodiscard]] MemoryScreens& screens() noexcept { return screens_; }
+
+    [[nodiscard]] MemoryWindows& windows() noexcept { return windows_; }
+
+    [[nodiscard]] MemoryPanels& panels() noexcept { return panels_; }
+
+    [[nodiscard]] MemoryPopovers& popovers() noexcept { return popovers_; }
+
+    [[nodiscard]] MemoryStatusBar& statusBar() noexcept { return statusBar_; }
+
+    [[nodiscard]] MemoryMainMenu& mainMenu() noexcept { return mainMenu_; }
+
+    [[nodiscard]] MemoryOpenPanels& openPanels() noexcept { return openPanels_; }
+
+    [[nodiscard]] MemoryUserDefaults& userDefaults() noexcept { return userDefaults_; }
+
+    /// What windows, panels, popover, menu and program did, in order.
+    [[nodiscard]] Journal& journal() noexcept { return journal_; }
+
 private:
     VirtualTime time_;
     MemoryThreads threads_;
@@ -85,6 +107,16 @@ private:
     MemoryFileStore fileStore_{disk_};
     MemoryRandom random_;
     MemoryStandardOutput standardOutput_;
+    Journal journal_;
+    MemoryApplication application_{journal_};
+    MemoryScreens screens_;
+    MemoryWindows windows_{journal_};
+    MemoryPanels panels_{journal_};
+    MemoryPopovers popovers_{journal_};
+    MemoryStatusBar statusBar_{journal_};
+    MemoryMainMenu mainMenu_{journal_};
+    MemoryOpenPanels openPanels_;
+    MemoryUserDefaults userDefaults_;
     Host host_;
 };
 
