@@ -18,6 +18,7 @@ app_module(tocca_core
         Audio/StrokeShaping.cpp
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
+        UI/ViewFactory.cpp
     HEADERS
         App/LaunchAtLogin.h
         App/SensitiveApplications.h
@@ -41,5 +42,7 @@ app_module(tocca_core
         Keyboard/Debouncer.h
         Keyboard/KeyboardMonitor.h
         Keyboard/TypingSpeed.h
+        UI/StudioTheme.h
+        UI/ViewFactory.h
     DEPENDS tocca_platform
     PRIVATE_DEPENDS simdjson::simdjson)

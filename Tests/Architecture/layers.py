@@ -17,6 +17,7 @@ LAYERS = {
     "Support": set(),
     "Platform": {"Support"},
     "Player": {"Support", "Platform"},
+    "UI/views": {"Support", "Platform"} | CONTROLLERS,
     **{name: {"Support", "Platform"} | CONTROLLERS for name in CONTROLLERS},
     "Platform/Memory": {"Support", "Platform"},
     "Platform/Linux": {"Support", "Platform", "Player"},
@@ -28,7 +29,8 @@ FOREIGN = {
     "Audio": {"simdjson.h"},
     "Player": {"sndfile.h", "soxr.h", "immintrin.h", "xmmintrin.h"},
 }
-UNRESTRICTED = {"Platform/Linux", "main"}
+UNRESTRICTED = {"Platform/Linux", "UI/views", "main"}
+BRANCHING = {"Platform/Linux", "main"}
 
 # The compiler is asked whether it knows an attribute; there is no other way to ask.
 CONDITIONAL = {SOURCES / "Support/Realtime.h"}
@@ -46,7 +48,11 @@ STANDARD = set(
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 CONDITION = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif|else)\b")
-MODULE = re.compile(r"\bapp_module\s*\(([^)]*)\)")
+MODULE = re.compile(r"\b(?:app_module|set|list)\s*\(([^)]*)\)")
+HEADER_LISTS = {"HEADERS", "TOCCA_UI_HEADERS"}
+
+# The parts of the interface that stand on the toolkit.
+VIEW = re.compile(r"^UI/(Quick/.*|.*ViewModel\.(h|cpp))$")
 
 
 def layer(path):
@@ -54,6 +60,8 @@ def layer(path):
     parts = Path(path).parts
     if len(parts) == 1:
         return "main" if parts[0] == "main.cpp" else None
+    if VIEW.match(str(path)):
+        return "UI/views"
     if parts[0] == "Platform" and len(parts) > 2:
         return "/".join(parts[:2]) if "/".join(parts[:2]) in LAYERS else None
     return parts[0] if parts[0] in LAYERS else None
@@ -79,7 +87,7 @@ def file_problems(root, file):
     if own is None:
         yield 1, "belongs to no known layer"
         return
-    mayBranch = own in UNRESTRICTED or file.relative_to(root) in CONDITIONAL
+    mayBranch = own in BRANCHING or file.relative_to(root) in CONDITIONAL
     for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
         if CONDITION.match(line) and not mayBranch:
             yield number, "conditional compilation outside main.cpp and Platform/Linux"
@@ -97,9 +105,9 @@ def listed_headers(root):
         for module in MODULE.findall(text):
             keyword = None
             for word in module.split():
-                if word.isupper():
+                if re.fullmatch(r"[A-Z_]+", word):
                     keyword = word
-                elif keyword == "HEADERS":
+                elif keyword in HEADER_LISTS:
                     headers.add(word)
     return headers
 

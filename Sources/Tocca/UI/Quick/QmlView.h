@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+class QObject;
+class QQmlEngine;
+class QQuickItem;
+
+namespace tocca::ui {
+
+/// Makes the item of a view's file, given from the module's root ("MenuBar/MenuBarView.qml"), with its required property `model` set. The
+/// item belongs to `parent`, and fills it. Errors: aborts with the engine's message, since the files are part of the program.
+[[nodiscard]] QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model,
+                                      QQuickItem& parent);
+
+} // namespace tocca::ui
