@@ -18,6 +18,7 @@ app_module(tocca_core
         Audio/StrokeShaping.cpp
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
+        UI/Controllers.cpp
         UI/ViewFactory.cpp
     HEADERS
         App/LaunchAtLogin.h
@@ -42,7 +43,11 @@ app_module(tocca_core
         Keyboard/Debouncer.h
         Keyboard/KeyboardMonitor.h
         Keyboard/TypingSpeed.h
+        UI/Controllers.h
+        UI/NotchHUD/NotchAcousticHUDController.h
         UI/StudioTheme.h
+        UI/Underglow/SpatialUnderglowController.h
+        UI/Underglow/UnderglowTheme.h
         UI/ViewFactory.h
     DEPENDS tocca_platform
     PRIVATE_DEPENDS simdjson::simdjson)
