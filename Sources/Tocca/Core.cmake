@@ -2,9 +2,12 @@ find_package(simdjson REQUIRED)
 
 app_module(tocca_core
     SOURCES
+        App/AppDelegate.cpp
         App/LaunchAtLogin.cpp
+        App/MainMenuTable.cpp
         App/SensitiveApplications.cpp
         App/SmartMuteManager.cpp
+        App/StatusIcon.cpp
         Audio/AcousticCatalogues.cpp
         Audio/AudioEngine.cpp
         Audio/PackImporter.cpp
@@ -21,9 +24,12 @@ app_module(tocca_core
         UI/Controllers.cpp
         UI/ViewFactory.cpp
     HEADERS
+        App/AppDelegate.h
         App/LaunchAtLogin.h
+        App/MainMenuTable.h
         App/SensitiveApplications.h
         App/SmartMuteManager.h
+        App/StatusIcon.h
         Audio/AcousticCatalogues.h
         Audio/AudioEngine.h
         Audio/AudioSettings.h
