@@ -22,6 +22,9 @@ app_module(tocca_core
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
         UI/Controllers.cpp
+        UI/NotchHUD/NotchAcousticHUDController.cpp
+        UI/Underglow/SpatialUnderglowController.cpp
+        UI/Underglow/UnderglowTheme.cpp
         UI/ViewFactory.cpp
     HEADERS
         App/AppDelegate.h
@@ -51,7 +54,9 @@ app_module(tocca_core
         Keyboard/TypingSpeed.h
         UI/Controllers.h
         UI/NotchHUD/NotchAcousticHUDController.h
+        UI/NotchHUD/Waveform.h
         UI/StudioTheme.h
+        UI/Underglow/Glow.h
         UI/Underglow/SpatialUnderglowController.h
         UI/Underglow/UnderglowTheme.h
         UI/ViewFactory.h

@@ -4,6 +4,7 @@
 #include "Support/Lifetime.h"
 #include "Support/Published.h"
 #include "Support/Spring.h"
+#include "Support/Subscription.h"
 
 #include <cstdint>
 #include <functional>
@@ -75,6 +76,8 @@ private:
     const MakeView makeView_;
     std::unique_ptr<platform::Panel> panel_;
     std::unique_ptr<platform::Timer> idleTimer_;
+    Subscription screenChanges_;
+    Subscription enabledLink_;
     std::vector<Subscription> cancellables_;
     Lifetime lifetime_;
 };

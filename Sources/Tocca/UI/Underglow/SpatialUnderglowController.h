@@ -2,6 +2,7 @@
 
 #include "Platform/View.h"
 #include "Support/Published.h"
+#include "Support/Subscription.h"
 #include "UI/Underglow/UnderglowTheme.h"
 
 #include <functional>
