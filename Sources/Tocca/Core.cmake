@@ -25,6 +25,14 @@ app_module(tocca_core
         UI/NotchHUD/NotchAcousticHUDController.cpp
         UI/Underglow/SpatialUnderglowController.cpp
         UI/Underglow/UnderglowTheme.cpp
+        UI/Studio/ShowroomCatalogue.cpp
+        UI/Studio/ShowroomItem.cpp
+        UI/Studio/StudioTab.cpp
+        UI/Studio/StudioText.cpp
+        UI/Studio/SwitchSelection.cpp
+        UI/Studio/SwitchTraits.cpp
+        UI/Studio/TextFolding.cpp
+        UI/Studio/VisualKey.cpp
         UI/ViewFactory.cpp
     HEADERS
         App/AppDelegate.h
@@ -55,6 +63,14 @@ app_module(tocca_core
         UI/Controllers.h
         UI/NotchHUD/NotchAcousticHUDController.h
         UI/NotchHUD/Waveform.h
+        UI/Studio/ShowroomCatalogue.h
+        UI/Studio/ShowroomItem.h
+        UI/Studio/StudioTab.h
+        UI/Studio/StudioText.h
+        UI/Studio/SwitchSelection.h
+        UI/Studio/SwitchTraits.h
+        UI/Studio/TextFolding.h
+        UI/Studio/VisualKey.h
         UI/StudioTheme.h
         UI/Underglow/Glow.h
         UI/Underglow/SpatialUnderglowController.h

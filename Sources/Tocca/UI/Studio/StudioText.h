@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+/// What the pages show of numbers and places, as text. Threads: any.
+namespace tocca::ui::studioText {
+
+/// The volumes that one click sets.
+inline constexpr std::array<float, 4> kVolumePresets{0.25F, 0.5F, 0.75F, 1.0F};
+
+/// "74%": the whole per cents of a share of 1.
+[[nodiscard]] std::string percentage(float share);
+
+/// "75%", and "100% (MAX)".
+[[nodiscard]] std::string presetLabel(float preset);
+
+/// Whether `volume` is as good as `preset`.
+[[nodiscard]] bool isPresetActive(float preset, float volume);
+
+/// "6% Lubed", or "Factory Dry".
+[[nodiscard]] std::string lubeReading(float lubeLevel);
+
+/// "file:///home/ann/My%20Packs": the address of an absolute path. Source: RFC 8089.
+[[nodiscard]] std::string fileUrl(const std::filesystem::path& path);
+
+} // namespace tocca::ui::studioText

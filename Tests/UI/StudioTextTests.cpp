@@ -1,0 +1,102 @@
+#include "UI/Studio/StudioText.h"
+#include "UI/Studio/VisualKey.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace tocca::ui {
+namespace {
+
+TEST(StudioText, ReadsVolumesAsWholePercents)
+{
+    struct Row {
+        float volume;
+        std::string_view reading;
+        int activePreset; // index; -1 is none
+    };
+
+    constexpr auto kRows = std::to_array<Row>({
+        {.volume = 0.0F, .reading = "0%", .activePreset = -1},
+        {.volume = 0.25F, .reading = "25%", .activePreset = 0},
+        {.volume = 0.479F, .reading = "47%", .activePreset = 1},
+        {.volume = 0.57F, .reading = "57%", .activePreset = -1},
+        {.volume = 0.7F, .reading = "70%", .activePreset = -1},
+        {.volume = 0.74F, .reading = "74%", .activePreset = 2},
+        {.volume = 0.999F, .reading = "99%", .activePreset = 3},
+    });
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.reading);
+        EXPECT_EQ(studioText::percentage(row.volume), row.reading);
+        for (int i = 0; i < 4; ++i) {
+            const float preset = studioText::kVolumePresets.at(static_cast<std::size_t>(i));
+            EXPECT_EQ(studioText::isPresetActive(preset, row.volume), i == row.activePreset) << i;
+        }
+    }
+    EXPECT_EQ(studioText::presetLabel(0.25F), "25%");
+    EXPECT_EQ(studioText::presetLabel(1.0F), "100% (MAX)");
+}
+
+TEST(StudioText, CallsAStemDryUpToFivePercent)
+{
+    EXPECT_EQ(studioText::lubeReading(0.0F), "Factory Dry");
+    EXPECT_EQ(studioText::lubeReading(0.05F), "Factory Dry");
+    EXPECT_EQ(studioText::lubeReading(0.06F), "6% Lubed");
+    EXPECT_EQ(studioText::lubeReading(1.0F), "100% Lubed");
+}
+
+TEST(StudioText, EncodesPathsForTheDesktop)
+{
+    EXPECT_EQ(studioText::fileUrl("/home/ann/Sound_Packs-1.0~"), "file:///home/ann/Sound_Packs-1.0~");
+    EXPECT_EQ(studioText::fileUrl("/a b/50%#?&\"ü"), "file:///a%20b/50%25%23%3F%26%22%C3%BC");
+}
+
+TEST(MiniKeyboard, HasEveryCapOnce)
+{
+    std::set<std::string> ids;
+    std::multiset<std::uint16_t> codes;
+    for (int row = 0; row < miniKeyboard::kRowCount; ++row) {
+        for (const VisualKey& key : miniKeyboard::row(row)) {
+            ids.insert(key.id());
+            codes.insert(key.code);
+        }
+    }
+    EXPECT_EQ(ids.size(), 59U);
+    EXPECT_TRUE(ids.contains("53_esc"));
+    EXPECT_TRUE(ids.contains("0_A"));
+    EXPECT_TRUE(ids.contains("56_⇧") && ids.contains("60_⇧"));
+    EXPECT_EQ(std::set(codes.begin(), codes.end()).size(), codes.size());
+    for (const int dark : {62, 63, 117, 76, 122, 123, 124, 125, 126}) {
+        EXPECT_FALSE(codes.contains(static_cast<std::uint16_t>(dark))) << dark;
+    }
+}
+
+TEST(MiniKeyboard, ShrinksTheCapsOfARowInProportion)
+{
+    constexpr auto kUnits = std::to_array<double>({14.5, 14.4, 14.1, 13.6, 11.4});
+    constexpr auto kGaps = std::to_array<double>({32.5, 32.5, 30, 27.5, 12.5});
+    for (int row = 0; row < miniKeyboard::kRowCount; ++row) {
+        SCOPED_TRACE(row);
+        const auto keys = miniKeyboard::row(row);
+        const double units = kUnits.at(static_cast<std::size_t>(row));
+        const double gaps = kGaps.at(static_cast<std::size_t>(row));
+        EXPECT_DOUBLE_EQ(miniKeyboard::unitWidth(keys, 1000), 20);
+        EXPECT_NEAR(miniKeyboard::unitWidth(keys, 200), (200 - gaps) / units, 1e-9);
+        EXPECT_DOUBLE_EQ(miniKeyboard::unitWidth(keys, 5), 0);
+    }
+    EXPECT_DOUBLE_EQ(miniKeyboard::fullWidth(), 334.5);
+    EXPECT_DOUBLE_EQ(miniKeyboard::fullHeight(), 114);
+}
+
+TEST(MiniKeyboard, PrintsWordsSmaller)
+{
+    for (int row = 0; row < miniKeyboard::kRowCount; ++row) {
+        for (const VisualKey& key : miniKeyboard::row(row)) {
+            const bool isWord = key.label == "esc" || key.label == "SPACE";
+            EXPECT_DOUBLE_EQ(key.labelSize(), isWord ? 6.5 : 8.0) << key.label;
+        }
+    }
+}
+
+} // namespace
+} // namespace tocca::ui
