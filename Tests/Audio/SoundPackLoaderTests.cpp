@@ -134,8 +134,8 @@ TEST_F(SoundPackLoaderTest, LooksForTheBuiltInPacksInAFixedOrderOnEveryCall)
     const std::filesystem::path places[] = {
         // NOLINT(modernize-avoid-c-arrays)
         "/home/user/.local/share/Tocca/SoundPacks",
-        "/home/user/work/Resources/SoundPacks",
-        "/home/user/work/Sources/Tocca/Resources/SoundPacks",
+        "/home/user/project/Resources/SoundPacks",
+        "/home/user/project/Sources/Tocca/Resources/SoundPacks",
         "/app/resources/Resources/SoundPacks",
         "/app/resources/SoundPacks",
     };

@@ -29,7 +29,7 @@ int main(int argc, char** argv)
     const std::vector<std::string> command(argv,
                                            argv + argc); // as it was before the framework took its flags out
     testing::InitGoogleTest(&argc, argv);
-    const bool isInside = std::getenv("PRIVATE_SESSION") != nullptr; // NOLINT(concurrency-mt-unsafe)
+    const bool isInside = std::getenv("PRIVATE_SESSION") != nullptr;
     if (!isInside && !testing::GTEST_FLAG(list_tests)) {
         // Synthetic keys must never reach the windows of whoever runs this.
         becomePrivate(command);

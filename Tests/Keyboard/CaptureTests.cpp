@@ -4,7 +4,6 @@ namespace tocca::keyboard {
 namespace {
 
 using platform::EventType;
-using platform::InputEvent;
 namespace flag = platform::flag;
 
 constexpr std::uint16_t kA = 0;

@@ -19,7 +19,7 @@ constexpr std::size_t kLimit = 32UL << 20U;
 TEST(LinuxFiles, RefuseAtOnceWhateverIsNoRegularFile)
 {
     const TemporaryDirectory directory;
-    const auto root = directory.path();
+    const auto& root = directory.path();
     TemporaryDirectory::makeFifo(root / "fifo");
     std::filesystem::create_symlink(root / "loop", root / "loop");
     std::filesystem::create_symlink(root / "fifo", root / "link to fifo");

@@ -33,8 +33,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 /// A folder of packs with one called "Alps", and another "Alps" to be imported.
-class ImportOnDisk : public testing::Test {
-protected:
+struct ImportOnDisk : testing::Test {
     ImportOnDisk() { fillOldPack(); }
 
     ~ImportOnDisk() override { static_cast<void>(platform::linux::LinuxFileStore().removeTree(root)); }

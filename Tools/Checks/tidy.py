@@ -53,6 +53,10 @@ def fingerprint(entry, files, common):
     return digest.hexdigest()
 
 
+def configurations():
+    return [ROOT / ".clang-tidy", *(file for folder in FOLDERS for file in sorted((ROOT / folder).rglob(".clang-tidy")))]
+
+
 def check(build, file):
     run = subprocess.run([TIDY, "-p", build, "--quiet", "--extra-arg=-Wno-unknown-warning-option", file],
                          capture_output=True, text=True)
@@ -68,7 +72,7 @@ def main():
     stamps = build / "tidy"
     stamps.mkdir(exist_ok=True)
     version = subprocess.run([TIDY, "--version"], capture_output=True, text=True, check=True).stdout
-    common = version.encode() + (ROOT / ".clang-tidy").read_bytes()
+    common = version.encode() + b"".join(file.read_bytes() for file in configurations())
     made_of = dependencies(build)
 
     todo = {}

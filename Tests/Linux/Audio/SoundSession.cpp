@@ -38,8 +38,7 @@ std::vector<float> record(double sampleRate)
 
 void SoundSession::SetUp()
 {
-    ASSERT_NE(std::getenv("PRIVATE_SESSION"), nullptr) // NOLINT(concurrency-mt-unsafe)
-        << "to be run by Tools/PrivateSession/private-session";
+    ASSERT_NE(std::getenv("PRIVATE_SESSION"), nullptr) << "to be run by Tools/PrivateSession/private-session";
     stopSound();
 }
 
@@ -55,7 +54,7 @@ void SoundSession::stopSound()
 
 void SoundSession::runInSession(const std::string& command)
 {
-    ASSERT_EQ(std::system(command.c_str()), 0) << command; // NOLINT(cert-env33-c,concurrency-mt-unsafe)
+    ASSERT_EQ(std::system(command.c_str()), 0) << command; // NOLINT(cert-env33-c)
 }
 
 void SoundSession::startOutput(LinuxAudioOutputOptions options)

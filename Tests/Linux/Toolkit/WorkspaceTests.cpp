@@ -28,8 +28,8 @@ class WorkspaceTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        ::setenv("XDG_DATA_HOME", data_.path().c_str(), 1); // NOLINT(concurrency-mt-unsafe)
-        ::setenv("LC_ALL", "de_DE.UTF-8", 1);               // NOLINT(concurrency-mt-unsafe)
+        ::setenv("XDG_DATA_HOME", data_.path().c_str(), 1);
+        ::setenv("LC_ALL", "de_DE.UTF-8", 1);
         std::filesystem::create_directory(data_.path() / "applications");
         TemporaryDirectory::write(data_.path() / "applications" / "org.keepassxc.KeePassXC.desktop",
                                   "[Desktop Entry]\nName=KeePassXC\nName[de]=Schlüsselbund\n");
@@ -37,8 +37,8 @@ protected:
 
     void TearDown() override
     {
-        ::unsetenv("XDG_DATA_HOME"); // NOLINT(concurrency-mt-unsafe)
-        ::unsetenv("LC_ALL");        // NOLINT(concurrency-mt-unsafe)
+        ::unsetenv("XDG_DATA_HOME");
+        ::unsetenv("LC_ALL");
     }
 
     void start()
@@ -112,12 +112,12 @@ TEST_F(WorkspaceTest, KnowsNobodyInAWaylandSession)
     address.sun_family = AF_UNIX;
     path.native().copy(address.sun_path, sizeof(address.sun_path) - 1);
     ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)), 0);
-    ::setenv("WAYLAND_DISPLAY", path.c_str(), 1); // NOLINT(concurrency-mt-unsafe)
+    ::setenv("WAYLAND_DISPLAY", path.c_str(), 1);
     XWindow vault({.instance = "keepassxc", .className = "KeePassXC"});
     vault.publishAs(kActive);
     start();
     {
-        ::unsetenv("WAYLAND_DISPLAY"); // NOLINT(concurrency-mt-unsafe)
+        ::unsetenv("WAYLAND_DISPLAY");
         SecureInput ignored;
         const LinuxWorkspace witness(ignored, machine_.timers());
         EXPECT_TRUE(machine_.runUntil([&] { return witness.frontmostApplication().has_value(); }));

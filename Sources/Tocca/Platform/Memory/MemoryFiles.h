@@ -64,7 +64,7 @@ public:
     }
 
     std::optional<std::filesystem::path> resourcesPath = "/app/resources";
-    std::filesystem::path workingPath = "/home/user/work";
+    std::filesystem::path workingPath = "/home/user/project";
     std::optional<std::filesystem::path> supportPath = "/home/user/.local/share";
 };
 
