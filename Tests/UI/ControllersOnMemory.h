@@ -14,11 +14,7 @@ namespace tocca::ui {
 
 /// All controllers on a machine in memory with one built-in pack.
 struct ControllersOnMemory {
-    ControllersOnMemory()
-    {
-        host.files().write("/app/resources/SoundPacks/holy-panda/press.wav", "press");
-        host.settle();
-    }
+    ControllersOnMemory() { host.files().write("/app/resources/SoundPacks/holy-panda/press.wav", "press"); }
 
     platform::memory::MemoryHost host;
     audio::SoundPackLoader loader{host};
