@@ -1,0 +1,10 @@
+pragma Strict
+import QtQuick
+
+/// A small heavy label; its text is given in capitals.
+Label {
+    size: Theme.labelSize
+    color: Theme.textMuted
+    font.letterSpacing: Theme.labelSpacing
+    font.weight: Font.ExtraBold
+}

@@ -1,0 +1,52 @@
+pragma Strict
+import QtQuick
+
+/// A check box with its title and line; the whole row is the target.
+Pressable {
+    id: root
+
+    property string line
+    property bool checked
+
+    signal toggled
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: root.checked
+    Accessible.description: root.line
+    implicitWidth: 26 + words.implicitWidth
+    implicitHeight: Math.max(Theme.rowHeight, words.implicitHeight + 4)
+    onActivated: root.toggled()
+
+    Rectangle {
+        id: box
+        anchors.verticalCenter: parent.verticalCenter
+        width: 18
+        height: 18
+        radius: 5
+        color: root.checked ? Theme.amberAccent : Theme.panelBg
+        border.color: root.checked || root.hovered ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.35))
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
+        }
+
+        Symbol {
+            anchors.centerIn: parent
+            color: Theme.panelBg
+            name: "checkmark"
+            size: 12
+            visible: root.checked
+        }
+    }
+
+    TitleAndLine {
+        id: words
+        anchors.left: box.right
+        anchors.leftMargin: 8
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        line: root.line
+        title: root.title
+    }
+}

@@ -1,0 +1,17 @@
+pragma Strict
+import QtQuick
+
+/// Shows around its parent that the keyboard acts there.
+Rectangle {
+    id: root
+
+    property real around: Theme.buttonRadius // radius of what it surrounds
+
+    anchors.fill: parent
+    anchors.margins: -2 * Theme.focusWidth
+    color: "transparent"
+    radius: root.around + 2 * Theme.focusWidth
+    border.width: Theme.focusWidth
+    border.color: Qt.alpha(Theme.amberAccent, Theme.focusStrength)
+    visible: parent && parent.activeFocus
+}

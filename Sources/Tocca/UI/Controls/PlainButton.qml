@@ -1,0 +1,30 @@
+pragma Strict
+import QtQuick
+
+/// A button whose bounds show under the pointer only.
+Pressable {
+    id: root
+
+    property alias text: face.text
+    property alias symbol: face.symbol
+    property alias trailingSymbol: face.trailingSymbol
+    property alias color: face.color
+    property alias padding: face.padding
+
+    title: root.text
+    implicitWidth: face.implicitWidth
+    implicitHeight: Theme.controlHeight
+
+    Rectangle {
+        anchors.fill: parent
+        radius: root.radius
+        color: Qt.alpha("black", root.pressed ? Theme.hoverShade + Theme.pressedShade : root.hovered ? Theme.hoverShade : 0)
+        border.color: root.hovered ? Theme.cardBorder : "transparent"
+    }
+
+    ButtonFace {
+        id: face
+        anchors.fill: parent
+        padding: 8
+    }
+}

@@ -1,0 +1,45 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+
+/// A list of options over the window, under its target where there is room. Arrows, Return and Escape act in it; a press beside it closes it.
+Item {
+    id: root
+
+    required property Item target
+    property list<string> options
+    property int currentIndex // the ticked option; −1 none
+    readonly property bool opened: loader.active
+
+    signal chosen(int index)
+
+    function open(): void {
+        loader.active = true;
+    }
+
+    function close(): void {
+        loader.active = false;
+        root.target.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    function take(index: int): void {
+        root.close();
+        root.chosen(index);
+    }
+
+    onVisibleChanged: if (!visible) loader.active = false
+
+    Loader {
+        id: loader
+        parent: root.Window.contentItem
+        anchors.fill: parent
+        z: 900
+        active: false
+        sourceComponent: PopupMenuSheet {
+            currentIndex: root.currentIndex
+            options: root.options
+            target: root.target
+            onChosen: index => root.take(index)
+            onRefused: root.close()
+        }
+    }
+}

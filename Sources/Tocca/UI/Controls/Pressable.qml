@@ -1,0 +1,45 @@
+pragma Strict
+import QtQuick
+
+/// What everything that can be pressed has in common: pointer, keys, focus, hint and what assistive programs are told.
+Item {
+    id: root
+
+    property string title // for assistive programs
+    property string hint // shown after a moment under the pointer
+    property real radius: Theme.buttonRadius
+    readonly property bool hovered: area.containsMouse
+    readonly property bool pressed: area.pressed && area.containsMouse
+
+    signal activated
+
+    Accessible.role: Accessible.Button
+    Accessible.name: root.title
+    Accessible.description: root.hint
+    Accessible.focusable: true
+    Accessible.onPressAction: root.activated()
+    Accessible.onToggleAction: root.activated()
+    activeFocusOnTab: true
+    opacity: enabled ? 1 : Theme.disabledOpacity
+
+    Keys.onSpacePressed: event => { if (!event.isAutoRepeat) root.activated(); }
+    Keys.onReturnPressed: event => { if (!event.isAutoRepeat) root.activated(); }
+    Keys.onEnterPressed: event => { if (!event.isAutoRepeat) root.activated(); }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: root.activated()
+    }
+
+    ToolTip {
+        target: root
+        text: root.hint
+        shown: area.containsMouse && !area.pressed
+    }
+
+    FocusRing {
+        around: root.radius
+    }
+}

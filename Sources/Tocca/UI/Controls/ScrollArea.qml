@@ -1,0 +1,55 @@
+import QtQuick
+
+/// Shows a column that is higher than itself. It follows the wheel, the bar at its right edge, Page keys and the keyboard's focus.
+FocusScope {
+    id: root
+
+    default property alias content: flick.flickableData
+    property alias contentY: flick.contentY
+    property alias contentHeight: flick.contentHeight
+    readonly property real lowest: Math.max(0, flick.contentHeight - flick.height)
+
+    function scrollTo(y: real): void {
+        glide.to = Math.max(0, Math.min(y, root.lowest));
+        glide.restart();
+    }
+
+    function scrollBy(points: real): void {
+        root.scrollTo((glide.running ? glide.to : flick.contentY) + points);
+    }
+
+    function reveal(item: Item): void {
+        for (let above = item; above; above = above.parent) {
+            if (above === flick.contentItem) {
+                const y = item.mapToItem(flick.contentItem, 0, 0).y;
+                if (y < flick.contentY + 12)
+                    root.scrollTo(y - 12);
+                else if (y + item.height > flick.contentY + root.height - 12)
+                    root.scrollTo(y + item.height + 12 - root.height);
+            }
+        }
+    }
+
+    readonly property Item focused: Window.activeFocusItem
+    onFocusedChanged: if (focused) root.reveal(focused)
+    onLowestChanged: if (flick.contentY > lowest) flick.contentY = lowest
+
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp;
+        if (event.accepted)
+            root.scrollBy((event.key === Qt.Key_PageDown ? 1 : -1) * (root.height - 60));
+    }
+
+    Flickable {
+        id: flick
+        anchors.fill: parent
+        clip: true
+        interactive: false
+        NumberAnimation on contentY { id: glide; running: false; duration: Theme.reducesMotion ? 0 : 160; easing.type: Easing.OutCubic }
+    }
+
+    // A control that the page brings under the pointer does not take over the wheel.
+    MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; enabled: glide.running; onWheel: wheel => root.scrollBy(-wheel.angleDelta.y / 2) }
+    WheelHandler { onWheel: event => root.scrollBy(-event.angleDelta.y / 2) }
+    ScrollBar { flickable: flick; moving: glide.running }
+}

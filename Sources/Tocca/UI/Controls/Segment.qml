@@ -1,0 +1,45 @@
+pragma Strict
+import QtQuick
+
+/// One option of a segmented picker.
+MouseArea {
+    id: root
+
+    required property int index
+    required property string modelData
+    required property bool selected
+    required property int lines
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: root.modelData
+    Accessible.checkable: true
+    Accessible.checked: root.selected
+    Accessible.onPressAction: root.clicked(null)
+    hoverEnabled: true
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.buttonRadius - 2
+        color: root.selected ? Theme.panelBg : Qt.alpha("black", root.pressed ? Theme.pressedShade : root.containsMouse ? Theme.hoverShade : 0)
+        border.color: root.selected ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.25)) : "transparent"
+    }
+
+    Label {
+        id: words
+        anchors.centerIn: parent
+        width: Math.min(implicitWidth, root.width - 10)
+        color: root.selected ? Theme.amberAccent : Theme.textSecondary
+        font.weight: root.selected ? Font.DemiBold : Font.Medium
+        horizontalAlignment: Text.AlignHCenter
+        maximumLineCount: root.lines
+        size: Theme.captionSize
+        text: root.modelData
+        wrapMode: root.lines > 1 ? Text.WordWrap : Text.NoWrap
+    }
+
+    ToolTip {
+        shown: root.containsMouse && !root.pressed
+        target: root
+        text: words.truncated ? root.modelData : ""
+    }
+}
