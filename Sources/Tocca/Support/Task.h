@@ -48,7 +48,7 @@ public:
     explicit operator bool() const noexcept { return operations_ != nullptr; }
 
     /// Runs the call. The task must hold one.
-    void operator()() { operations_->invoke(storage_); }
+    void operator()() { operations_->invoke(storage_); } // NOLINT: the caller knows that it does
 
 private:
     struct Operations {
