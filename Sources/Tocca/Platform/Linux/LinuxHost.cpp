@@ -4,7 +4,17 @@
 
 namespace tocca::platform::linux {
 
-LinuxHost::LinuxHost() = default;
+LinuxHost::LinuxHost()
+    : statusBar_(xDesktop_, {.openStudio = [this] { application_.reopen(); },
+                             .quit = [this] { application_.terminate(); }})
+    , application_({.windows = ownWindows_,
+                    .output = standardOutput_,
+                    .hasStatusIcon = [this] { return statusBar_.isShown(); }})
+    , mainMenu_(ownWindows_,
+                {.showAbout = [this] { showAbout(); }, .quit = [this] { application_.terminate(); }})
+{
+    ownWindows_.setListener(&localKeys_);
+}
 
 Host LinuxHost::with(AudioPlayers& players) noexcept
 {
@@ -25,7 +35,16 @@ Host LinuxHost::with(AudioPlayers& players) noexcept
             .files = files_,
             .fileStore = fileStore_,
             .random = random_,
-            .standardOutput = standardOutput_};
+            .standardOutput = standardOutput_,
+            .application = application_,
+            .screens = screens_,
+            .windows = windows_,
+            .panels = panels_,
+            .popovers = popovers_,
+            .statusBar = statusBar_,
+            .mainMenu = mainMenu_,
+            .openPanels = openPanels_,
+            .userDefaults = userDefaults_};
 }
 
 SchedulingAppeal LinuxHost::appeal()
@@ -33,6 +52,14 @@ SchedulingAppeal LinuxHost::appeal()
     return [this](std::uint64_t threadId) {
         mainQueue_.post([threadId] { raiseThreadThroughRealtimeKit(threadId); });
     };
+}
+
+void LinuxHost::showAbout()
+{
+    if (!about_) {
+        about_ = std::make_unique<AboutWindow>();
+    }
+    about_->showInFront();
 }
 
 } // namespace tocca::platform::linux

@@ -15,12 +15,25 @@
 #include "Platform/Linux/System/LinuxStandardOutput.h"
 #include "Platform/Linux/System/LinuxThreads.h"
 #include "Platform/Linux/System/LinuxTimers.h"
+#include "Platform/Linux/System/LinuxUserDefaults.h"
+#include "Platform/Linux/Toolkit/AboutWindow.h"
+#include "Platform/Linux/Toolkit/LinuxApplication.h"
+#include "Platform/Linux/Toolkit/LinuxMainMenu.h"
+#include "Platform/Linux/Toolkit/LinuxOpenPanels.h"
+#include "Platform/Linux/Toolkit/LinuxPanels.h"
+#include "Platform/Linux/Toolkit/LinuxPopovers.h"
+#include "Platform/Linux/Toolkit/LinuxScreens.h"
+#include "Platform/Linux/Toolkit/LinuxStatusBar.h"
+#include "Platform/Linux/Toolkit/LinuxWindows.h"
 #include "Platform/Linux/Toolkit/LinuxWorkspace.h"
+#include "Platform/Linux/Toolkit/LocalKeys.h"
 #include "Platform/Linux/Toolkit/SessionLock.h"
 #include "Platform/Linux/Toolkit/ToolkitLoop.h"
 #include "Platform/Linux/X11/SecureInput.h"
 #include "Platform/Linux/X11/X11TrustQuery.h"
 #include "Platform/Linux/X11/XInputEventTaps.h"
+
+#include <memory>
 
 namespace tocca::platform::linux {
 
@@ -41,13 +54,15 @@ public:
 
     [[nodiscard]] LinuxStandardOutput& standardOutput() noexcept { return standardOutput_; }
 
-    /// Where the windows hand in what they receive.
-    [[nodiscard]] LinuxLocalMonitors& localMonitors() noexcept { return localMonitors_; }
+    /// The program itself, which can be asked whether the session has another instance before anything is started.
+    [[nodiscard]] LinuxApplication& application() noexcept { return application_; }
 
     /// Passes a thread that the kernel refused on to RealtimeKit, by way of the main thread.
     [[nodiscard]] SchedulingAppeal appeal();
 
 private:
+    void showAbout();
+
     LinuxTimers timers_;
     LinuxMainQueue mainQueue_{timers_};
     ToolkitLoop loop_{mainQueue_, timers_};
@@ -68,6 +83,19 @@ private:
     LinuxFiles files_;
     LinuxFileStore fileStore_;
     LinuxRandom random_;
+    LinuxUserDefaults userDefaults_{serialQueues_};
+    OwnWindows ownWindows_;
+    XDesktop xDesktop_;
+    LocalKeys localKeys_{localMonitors_};
+    LinuxScreens screens_;
+    LinuxWindows windows_{ownWindows_};
+    LinuxPanels panels_{ownWindows_, xDesktop_};
+    LinuxPopovers popovers_{ownWindows_};
+    LinuxStatusBar statusBar_;
+    LinuxApplication application_;
+    LinuxMainMenu mainMenu_;
+    LinuxOpenPanels openPanels_{ownWindows_};
+    std::unique_ptr<AboutWindow> about_; // from its first showing on
 };
 
 } // namespace tocca::platform::linux

@@ -22,6 +22,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxStandardOutput.cpp
         Platform/Linux/System/LinuxThreads.cpp
         Platform/Linux/System/LinuxTimers.cpp
+        Platform/Linux/System/LinuxUserDefaults.cpp
         Platform/Linux/System/ProcessNames.cpp
         Platform/Linux/System/RunLoop.cpp
         Platform/Linux/System/Scheduling.cpp
@@ -49,6 +50,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxStandardOutput.h
         Platform/Linux/System/LinuxThreads.h
         Platform/Linux/System/LinuxTimers.h
+        Platform/Linux/System/LinuxUserDefaults.h
         Platform/Linux/System/LowerCase.h
         Platform/Linux/System/ProcessNames.h
         Platform/Linux/System/RunLoop.h

@@ -111,6 +111,11 @@ std::optional<std::filesystem::path> LinuxDirectories::applicationSupport() cons
     return userDirectory("XDG_DATA_HOME", ".local/share");
 }
 
+std::optional<std::filesystem::path> stateDirectory()
+{
+    return userDirectory("XDG_STATE_HOME", ".local/state");
+}
+
 std::vector<std::filesystem::path> autostartDirectories()
 {
     const auto own = userDirectory("XDG_CONFIG_HOME", ".config");

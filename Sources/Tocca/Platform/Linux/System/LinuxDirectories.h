@@ -26,6 +26,9 @@ private:
     std::filesystem::path programDirectory_;
 };
 
+/// Where the user's programs keep what is worth little; nothing when the system does not even name the user's home. Threads: any.
+[[nodiscard]] std::optional<std::filesystem::path> stateDirectory();
+
 /// Where the desktop looks for what starts with the session, the user's own directory first; none when the system does not
 /// even name the user's home. Threads: any.
 [[nodiscard]] std::vector<std::filesystem::path> autostartDirectories();

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <functional>
+
+namespace tocca::platform::linux {
+
+/// The program's name on the session bus, and what launchers and a second instance say to who has it. Threads: main.
+class ApplicationService : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    struct Commands {
+        std::function<void()> activate;
+        std::function<void()> quit; ///< the launcher action "quit"
+    };
+
+    ApplicationService(QDBusConnection bus, Commands commands);
+    ~ApplicationService() override;
+
+    /// Takes the name; true also where there is no bus. When somebody has it, asks them to come to the front, waits for that up to five
+    /// seconds, and returns false.
+    [[nodiscard]] bool claim();
+
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
+    // By the names of the protocol.
+    void Activate(const QVariantMap& platformData);
+    void Open(const QStringList& uris, const QVariantMap& platformData);
+    void ActivateAction(const QString& name, const QVariantList& parameters, const QVariantMap& platformData);
+
+private:
+    void adopt(const QVariantMap& platformData);
+
+    QDBusConnection bus_;
+    const Commands commands_;
+};
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QUrl>
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QQuickWindow;
+
+namespace tocca::platform::linux {
+
+/// The toolkit's own dialog for choosing a folder. Threads: main.
+class FolderDialog : public QObject {
+    Q_OBJECT
+
+public:
+    using Completion = std::function<void(std::optional<std::filesystem::path>)>;
+
+    /// Shows the dialog; null when the toolkit's dialogs are not installed. `completion` is called once, later.
+    [[nodiscard]] static std::unique_ptr<FolderDialog> open(const QString& prompt, Completion completion);
+
+    ~FolderDialog() override;
+
+    void bringToFront();
+
+private:
+    explicit FolderDialog(Completion completion);
+
+    Q_SLOT void choose(const QUrl& folder);
+    Q_SLOT void cancel();
+    void finish(const std::optional<std::filesystem::path>& folder);
+
+    Completion completion_;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> window_;
+};
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,89 @@
+#include "Platform/Linux/Toolkit/LinuxApplication.h"
+
+#include "Platform/Linux/Toolkit/ContentWindow.h"
+#include "Platform/Linux/Toolkit/DesktopNotice.h"
+#include "Platform/Linux/Toolkit/WindowActivation.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace tocca::platform::linux {
+
+LinuxApplication::LinuxApplication(Surroundings surroundings)
+    : surroundings_(std::move(surroundings))
+{}
+
+bool LinuxApplication::isFirstInstance()
+{
+    if (!isFirst_) {
+        service_ = std::make_unique<ApplicationService>(
+            QDBusConnection::sessionBus(),
+            ApplicationService::Commands{.activate = [this] { reopen(); }, .quit = [this] { terminate(); }});
+        isFirst_ = service_->claim();
+    }
+    return *isFirst_;
+}
+
+int LinuxApplication::run(ApplicationDelegate& delegate)
+{
+    if (!isFirstInstance()) {
+        return 0;
+    }
+    QGuiApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
+    delegate_ = &delegate;
+    QObject context; // what is still due when the loop ends does not happen
+    QTimer::singleShot(0, &context, [this, &delegate] {
+        delegate.applicationDidFinishLaunching();
+        if (std::exchange(hasWishToReopen_, false)) {
+            reopen();
+        }
+    });
+    const int status = QCoreApplication::exec();
+    delegate_ = nullptr;
+    service_.reset(); // from here another instance may take over
+    return status;
+}
+
+void LinuxApplication::setActivationPolicy(ActivationPolicy policy)
+{
+    // Only ordinary windows are in the task bar, and only while they are shown: there is nothing more to tell the desktop.
+    if (policy == ActivationPolicy::regular || hasSaidWhereItIs_ || surroundings_.hasStatusIcon()) {
+        return;
+    }
+    hasSaidWhereItIs_ = true;
+    constexpr const char* kNotice =
+        "Tocca keeps running without a window. Start it again to bring the window back.";
+    surroundings_.output.printLine(kNotice);
+    sendDesktopNotice(QDBusConnection::sessionBus(), QLatin1String(kNotice));
+}
+
+void LinuxApplication::activate()
+{
+    for (ContentWindow* const window : surroundings_.windows.all()) {
+        if (window->isVisible()) {
+            bringToFront(*window);
+        }
+    }
+}
+
+void LinuxApplication::terminate()
+{
+    QCoreApplication::quit();
+}
+
+void LinuxApplication::reopen()
+{
+    if (delegate_ == nullptr) {
+        hasWishToReopen_ = true;
+        return;
+    }
+    const auto& windows = surroundings_.windows.all();
+    delegate_->applicationShouldHandleReopen(
+        std::any_of(windows.begin(), windows.end(), [](const auto* window) { return window->isVisible(); }));
+}
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tocca::platform::linux {
+
+/// An icon inside an X11 tray, on a connection of its own to the X server that DISPLAY names.
+///
+/// Threads: one at a time; the observers are called from inside `serve`.
+/// Units: device pixels.
+class EmbeddedIcon {
+public:
+    /// What the icon looks like on a square of this size: rows of ARGB words, premultiplied.
+    using Painter = std::function<std::vector<std::uint32_t>(int size)>;
+
+    struct Place {
+        int x = 0; ///< on the screen
+        int y = 0;
+        int width = 0;
+        int height = 0;
+    };
+
+    struct Observers {
+        std::function<void()> clicked;
+        std::function<void()> menuRequested;
+    };
+
+    /// Asks the tray whose window is `tray` to take the icon in, and waits for the server meanwhile; null when there is none.
+    [[nodiscard]] static std::unique_ptr<EmbeddedIcon> dock(xcb_window_t tray, Painter painter,
+                                                            Observers observers);
+
+    EmbeddedIcon(const EmbeddedIcon&) = delete;
+    EmbeddedIcon& operator=(const EmbeddedIcon&) = delete;
+
+    /// Draws the icon anew.
+    void repaint();
+
+    /// Nothing until the tray shows the icon.
+    [[nodiscard]] std::optional<Place> place() const;
+
+    /// Takes in what the server has sent; whenever `fd` is readable. False when the server or the tray is lost.
+    bool serve();
+
+    [[nodiscard]] int fd() const noexcept { return xcb_get_file_descriptor(connection_.get()); }
+
+private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
+    };
+
+    using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
+    static constexpr int kFirstSize = 24; // until the tray gives the icon its own
+
+    /// What the tray draws its icons with.
+    struct Surface {
+        xcb_visualid_t visual = 0;
+        std::uint8_t depth = 0;
+    };
+
+    EmbeddedIcon(Connection connection, xcb_screen_t& screen, Painter painter, Observers observers);
+
+    void create(xcb_window_t tray);
+    [[nodiscard]] Surface surfaceOf(xcb_window_t tray) const;
+    [[nodiscard]] xcb_atom_t atom(const char* name) const;
+    void handle(const xcb_generic_event_t& event);
+
+    const Connection connection_;
+    xcb_screen_t& screen_;
+    const Painter painter_;
+    const Observers observers_;
+    xcb_window_t window_ = XCB_NONE;
+    xcb_gcontext_t context_ = XCB_NONE;
+    Surface surface_;
+    int width_ = kFirstSize;
+    int height_ = kFirstSize;
+    bool isShown_ = false;
+    bool isLost_ = false;
+};
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,134 @@
+#include "Platform/Linux/X11/WindowRequests.h"
+
+#include "Platform/Linux/X11/XReply.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+constexpr std::uint32_t kEveryDesktop = 0xFFFFFFFF;
+constexpr std::uint32_t kSourceIsPager = 2; // a window manager follows a person's own wish at once
+constexpr std::uint8_t kWordBits = 32;
+
+bool contains(const std::vector<std::uint32_t>& values, std::uint32_t value)
+{
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
+} // namespace
+
+void WindowRequests::setClass(xcb_window_t window, std::string_view instance, std::string_view className)
+{
+    std::string text(instance);
+    text += '\0';
+    text += className;
+    text += '\0';
+    xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(text.size()), text.data());
+}
+
+void WindowRequests::makeOverlay(xcb_window_t window)
+{
+    setWords(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {kEveryDesktop});
+    setWords(window, "_NET_WM_STATE", XCB_ATOM_ATOM,
+             {atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
+              atom("_NET_WM_STATE_SKIP_PAGER"), atom("_NET_WM_STATE_ABOVE")});
+    setWords(window, "_COMPTON_SHADOW", XCB_ATOM_CARDINAL, {0});
+}
+
+void WindowRequests::bringToCurrentDesktop(xcb_window_t window)
+{
+    const auto current = words(root_, "_NET_CURRENT_DESKTOP");
+    const auto own = words(window, "_NET_WM_DESKTOP");
+    if (!current.empty() && !own.empty() && own.front() != current.front() && own.front() != kEveryDesktop) {
+        tellRoot(window, "_NET_WM_DESKTOP", {current.front(), kSourceIsPager});
+    }
+}
+
+void WindowRequests::activate(xcb_window_t window)
+{
+    tellRoot(window, "_NET_ACTIVE_WINDOW", {kSourceIsPager, XCB_CURRENT_TIME, XCB_NONE});
+}
+
+void WindowRequests::minimise(xcb_window_t window)
+{
+    constexpr std::uint32_t kIconicState = 3;
+    tellRoot(window, "WM_CHANGE_STATE", {kIconicState});
+}
+
+std::vector<xcb_window_t> WindowRequests::ordinaryWindows(std::uint32_t ownId)
+{
+    const auto current = words(root_, "_NET_CURRENT_DESKTOP");
+    const xcb_atom_t hidden = atom("_NET_WM_STATE_HIDDEN");
+    std::vector<xcb_window_t> windows;
+    for (const xcb_window_t window : words(root_, "_NET_CLIENT_LIST_STACKING")) {
+        const auto desktop = words(window, "_NET_WM_DESKTOP");
+        const bool isElsewhere = !current.empty() && !desktop.empty() && desktop.front() != current.front();
+        if (!isElsewhere && isOrdinary(window) && !contains(words(window, "_NET_WM_STATE"), hidden) &&
+            !contains(words(window, "_NET_WM_PID"), ownId)) {
+            windows.push_back(window);
+        }
+    }
+    return windows;
+}
+
+bool WindowRequests::isThere(xcb_window_t window)
+{
+    return contains(words(root_, "_NET_CLIENT_LIST"), window);
+}
+
+bool WindowRequests::isOrdinary(xcb_window_t window)
+{
+    const auto types = words(window, "_NET_WM_WINDOW_TYPE");
+    return types.empty() || contains(types, atom("_NET_WM_WINDOW_TYPE_NORMAL")) ||
+           contains(types, atom("_NET_WM_WINDOW_TYPE_DIALOG"));
+}
+
+xcb_atom_t WindowRequests::atom(std::string_view name)
+{
+    const auto cookie = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+std::vector<std::uint32_t> WindowRequests::words(xcb_window_t window, std::string_view property)
+{
+    constexpr std::uint32_t kMost = 4096;
+    const auto cookie =
+        xcb_get_property(connection_, 0, window, atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, kMost);
+    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie, nullptr));
+    if (!reply || reply->format != kWordBits) {
+        return {};
+    }
+    const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    const auto count =
+        static_cast<std::size_t>(xcb_get_property_value_length(reply.get())) / sizeof(std::uint32_t);
+    return {first, first + count};
+}
+
+void WindowRequests::setWords(xcb_window_t window, std::string_view property, xcb_atom_t type,
+                              const std::vector<std::uint32_t>& values)
+{
+    xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, atom(property), type, kWordBits,
+                        static_cast<std::uint32_t>(values.size()), values.data());
+}
+
+void WindowRequests::tellRoot(xcb_window_t window, std::string_view message,
+                              const std::vector<std::uint32_t>& values)
+{
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = kWordBits;
+    event.window = window;
+    event.type = atom(message);
+    std::copy(values.begin(), values.end(), event.data.data32);
+    constexpr std::uint32_t kReceivers =
+        XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_send_event(connection_, 0, root_, kReceivers, reinterpret_cast<const char*>(&event));
+    xcb_flush(connection_);
+}
+
+} // namespace tocca::platform::linux
