@@ -1,0 +1,41 @@
+pragma Strict
+import QtQuick
+import Tocca.UI
+
+Item {
+    id: root
+
+    required property SpatialUnderglowViewModel model
+
+    Item {
+        anchors.fill: parent
+        opacity: root.model.pulseOpacity
+        visible: opacity > 0
+
+        Behavior on opacity {
+            id: pulse
+
+            enabled: !Theme.reducesMotion
+
+            NumberAnimation {
+                duration: pulse.targetValue > 0 ? 50 : 280
+                easing.type: Easing.OutSine
+            }
+        }
+
+        GlowLight {
+            x: Math.round(root.model.pulseXRatio * parent.width - width / 2)
+            height: parent.height
+            primary: root.model.primaryColor
+            secondary: root.model.secondaryColor
+        }
+
+        EdgeLine {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            color: root.model.primaryColor
+            ratio: root.model.pulseXRatio
+        }
+    }
+}
