@@ -6,6 +6,7 @@ Pressable {
     id: root
 
     property string line
+    property string badge // a fact about what it switches, at the right
     property bool checked
 
     signal toggled
@@ -47,6 +48,17 @@ Pressable {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         line: root.line
+        lineColor: Theme.textSecondary
         title: root.title
+        titleInset: fact.visible ? fact.width + 12 : 0
+        titleWeight: Font.Bold
+    }
+
+    Badge {
+        id: fact
+        anchors.right: parent.right
+        anchors.top: words.top
+        text: root.badge
+        visible: root.badge !== ""
     }
 }

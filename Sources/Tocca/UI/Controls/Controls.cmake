@@ -1,4 +1,5 @@
 list(APPEND TOCCA_UI_QML
+    Controls/Badge.qml
     Controls/ButtonFace.qml
     Controls/CapitalLabel.qml
     Controls/Card.qml

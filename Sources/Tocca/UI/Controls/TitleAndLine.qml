@@ -8,21 +8,24 @@ Column {
     property string title
     property string line
     property color titleColor: Theme.textPrimary
+    property color lineColor: Theme.textMuted
+    property int titleWeight: Font.DemiBold
+    property real titleInset // kept free at the title's right
     property int mostLines: 2 // of the explanation
 
     spacing: 2
 
     Label {
-        width: root.width
+        width: root.width - root.titleInset
         color: root.titleColor
-        font.weight: Font.DemiBold
+        font.weight: root.titleWeight
         size: Theme.rowTitleSize
         text: root.title
     }
 
     Label {
         width: root.width
-        color: Theme.textMuted
+        color: root.lineColor
         maximumLineCount: root.mostLines
         size: Theme.captionSize
         text: root.line
