@@ -25,6 +25,7 @@ app_module(tocca_core
         UI/NotchHUD/NotchAcousticHUDController.cpp
         UI/Underglow/SpatialUnderglowController.cpp
         UI/Underglow/UnderglowTheme.cpp
+        UI/Studio/KeyEquivalentText.cpp
         UI/Studio/ShowroomCatalogue.cpp
         UI/Studio/ShowroomItem.cpp
         UI/Studio/StudioTab.cpp
@@ -63,6 +64,7 @@ app_module(tocca_core
         UI/Controllers.h
         UI/NotchHUD/NotchAcousticHUDController.h
         UI/NotchHUD/Waveform.h
+        UI/Studio/KeyEquivalentText.h
         UI/Studio/ShowroomCatalogue.h
         UI/Studio/ShowroomItem.h
         UI/Studio/StudioTab.h

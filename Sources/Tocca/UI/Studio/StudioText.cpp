@@ -33,6 +33,11 @@ std::string lubeReading(float lubeLevel)
     return lubeLevel > kDry ? percentage(lubeLevel) + " Lubed" : "Factory Dry";
 }
 
+std::string muteStatus(const std::optional<std::string>& reason)
+{
+    return reason.value_or("Mute Active: Audio stream currently silenced.");
+}
+
 std::string fileUrl(const std::filesystem::path& path)
 {
     constexpr std::string_view kDigits = "0123456789ABCDEF";

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 /// What the pages show of numbers and places, as text. Threads: any.
@@ -21,6 +22,9 @@ inline constexpr std::array<float, 4> kVolumePresets{0.25F, 0.5F, 0.75F, 1.0F};
 
 /// "6% Lubed", or "Factory Dry".
 [[nodiscard]] std::string lubeReading(float lubeLevel);
+
+/// The reason of the silence, or that there is silence.
+[[nodiscard]] std::string muteStatus(const std::optional<std::string>& reason);
 
 /// "file:///home/ann/My%20Packs": the address of an absolute path. Source: RFC 8089.
 [[nodiscard]] std::string fileUrl(const std::filesystem::path& path);

@@ -1,0 +1,38 @@
+pragma Strict
+import QtQuick
+
+/// Selects a sound and lets it be heard.
+Pressable {
+    id: root
+
+    implicitWidth: row.implicitWidth + 18
+    implicitHeight: 26
+    radius: 4
+
+    Rectangle {
+        anchors.fill: parent
+        radius: root.radius
+        color: root.pressed ? Qt.tint(Theme.panelBg, Qt.alpha("black", Theme.pressedShade)) : Theme.panelBg
+        border.color: root.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, 2 * Theme.hoverBorder)) : Theme.cardBorder
+    }
+
+    Row {
+        id: row
+        anchors.centerIn: parent
+        spacing: 6
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.textPrimary
+            name: "play.fill"
+            size: 10
+        }
+
+        CapitalLabel {
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.textPrimary
+            font.weight: Font.Bold
+            text: "AUDITION"
+        }
+    }
+}

@@ -1,0 +1,27 @@
+#include "UI/Studio/KeyEquivalentText.h"
+
+#include "UI/Studio/TextFolding.h"
+
+#include <algorithm>
+
+namespace tocca::ui {
+
+std::string keyEquivalentText(const platform::KeyEquivalent& equivalent)
+{
+    if (equivalent.key.empty()) {
+        return {};
+    }
+    std::string key = equivalent.key;
+    const bool isCapital = foldedCase(key) != key;
+    std::transform(key.begin(), key.end(), key.begin(), [](char letter) {
+        return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - ('a' - 'A')) : letter;
+    });
+    std::string text;
+    text += equivalent.control ? "Meta+" : "";
+    text += equivalent.command ? "Ctrl+" : "";
+    text += equivalent.option ? "Alt+" : "";
+    text += isCapital ? "Shift+" : "";
+    return text + key;
+}
+
+} // namespace tocca::ui

@@ -1,0 +1,80 @@
+import QtQuick
+
+/// The volume, by slider and by presets.
+ConsoleSection {
+    id: root
+
+    required property AcousticsViewModel model
+
+    icon: "speaker.wave.3.fill"
+    title: "Master Audio Attenuator"
+
+    Slider {
+        objectName: "volume"
+        width: parent.width
+        title: "Master Audio Attenuator"
+        value: root.model.volume
+        onMoved: value => root.model.setVolume(value)
+    }
+
+    Item {
+        width: parent.width
+        height: Theme.controlHeight
+
+        Label {
+            id: presetsLabel
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.textMuted
+            font.family: Theme.monoFace
+            font.weight: Font.Bold
+            size: 10
+            text: "PRESETS:"
+        }
+
+        Row {
+            id: presets
+            anchors.left: presetsLabel.right
+            anchors.leftMargin: 10
+            spacing: 6
+
+            Repeater {
+                model: root.model.presetLabels
+
+                PushButton {
+                    required property int index
+                    required property string modelData
+
+                    objectName: "preset" + index
+                    Accessible.checkable: true
+                    Accessible.checked: on
+                    on: root.model.activePreset === index
+                    text: modelData
+                    onActivated: root.model.choosePreset(index)
+                }
+            }
+        }
+
+        Row {
+            anchors.right: parent.right
+            height: parent.height
+            spacing: 8
+
+            CapitalLabel {
+                anchors.baseline: reading.baseline
+                text: "STUDIO LEVEL"
+            }
+
+            Label {
+                objectName: "volumeReading"
+                id: reading
+                anchors.verticalCenter: parent.verticalCenter
+                width: 44
+                color: Theme.textPrimary
+                font.weight: Font.ExtraBold
+                horizontalAlignment: Text.AlignRight
+                size: 16
+                text: root.model.volumeReading
+            }
+        }
+    }
+}

@@ -1,0 +1,89 @@
+import QtQuick
+
+/// The main menu in a slim bar, for desktops that do not show it themselves. F10 or Alt opens it.
+Rectangle {
+    id: root
+
+    required property MainMenuViewModel model
+    required property Item sheetParent // the open menu covers it
+    property Item editing // has the focus back before anything is performed
+    property bool altAlone
+
+    function open(index: int): void {
+        if (root.model.openMenu < 0)
+            root.editing = root.Window.activeFocusItem;
+        root.model.open((index + root.model.titles.length) % root.model.titles.length);
+        sheet.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    function close(): void {
+        root.model.close();
+        root.editing?.forceActiveFocus(Qt.PopupFocusReason);
+        root.editing = null;
+    }
+
+    function perform(row: int): void {
+        root.close();
+        root.model.perform(row);
+    }
+
+    /// Whether a key that nothing else took belongs to the menu.
+    function handlePress(key: int, modifiers: int): bool {
+        root.altAlone = key === Qt.Key_Alt && root.visible;
+        if (key !== Qt.Key_F10 || modifiers !== Qt.NoModifier || !root.visible)
+            return false;
+        root.open(0);
+        return true;
+    }
+
+    function handleRelease(key: int): bool {
+        const opens = key === Qt.Key_Alt && root.altAlone;
+        root.altAlone = false;
+        if (opens)
+            root.open(0);
+        return opens;
+    }
+
+    Accessible.role: Accessible.MenuBar
+    Accessible.name: "Main menu"
+    implicitHeight: 30
+    color: Theme.panelBg
+
+    Row {
+        id: row
+        x: 10
+        height: root.height - 1
+
+        Repeater {
+            id: titles
+            model: root.model.titles
+
+            MenuBarTitle {
+                height: row.height
+                isApplication: index === 0
+                isOpen: root.model.openMenu === index
+                onPressed: isOpen ? root.close() : root.open(index)
+                onEntered: if (root.model.openMenu >= 0) root.open(index)
+            }
+        }
+    }
+
+    Divider {
+        anchors.bottom: parent.bottom
+        width: root.width
+    }
+
+    MenuSheet {
+        id: sheet
+        parent: root.sheetParent
+        anchors.fill: parent
+        left: row.x + (titles.itemAt(root.model.openMenu)?.x ?? 0)
+        model: root.model.items
+        top: root.height
+        visible: root.model.openMenu >= 0
+        z: 800
+        onClosed: root.close()
+        onChosen: row => root.perform(row)
+        onMoved: step => root.open(root.model.openMenu + step)
+    }
+}

@@ -1,0 +1,82 @@
+pragma Strict
+import QtQuick
+
+/// An item of an open menu: check mark, title, and the keys that choose it.
+Item {
+    id: root
+
+    required property int index
+    required property string title
+    required property string shortcut
+    required property bool isSeparator
+    required property bool isEnabled
+    required property bool isChecked
+    required property bool current
+
+    signal chosen
+    signal hovered
+
+    objectName: "menuItem" + root.index
+    Accessible.role: root.isSeparator ? Accessible.Separator : Accessible.MenuItem
+    Accessible.name: root.title
+    Accessible.checkable: root.isChecked
+    Accessible.checked: root.isChecked
+    Accessible.onPressAction: if (root.isEnabled) root.chosen()
+    implicitHeight: isSeparator ? 9 : 28
+
+    Divider {
+        anchors.verticalCenter: parent.verticalCenter
+        x: 8
+        width: root.width - 16
+        visible: root.isSeparator
+    }
+
+    Item {
+        anchors.fill: parent
+        opacity: root.isEnabled ? 1 : Theme.disabledOpacity
+        visible: !root.isSeparator
+
+        Rectangle {
+            anchors.fill: parent
+            radius: 6
+            color: root.current ? Qt.alpha(Theme.amberAccent, 0.12) : "transparent"
+        }
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            x: 8
+            color: Theme.amberAccent
+            name: "checkmark"
+            size: 12
+            visible: root.isChecked
+        }
+
+        Label {
+            id: label
+            anchors.left: parent.left
+            anchors.leftMargin: 26
+            anchors.right: keys.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            color: Theme.textPrimary
+            text: root.title
+        }
+
+        Label {
+            id: keys
+            anchors.baseline: label.baseline
+            anchors.right: parent.right
+            anchors.rightMargin: 10
+            color: Theme.textMuted
+            size: Theme.captionSize
+            text: root.shortcut
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onEntered: root.hovered()
+        onClicked: if (root.isEnabled && !root.isSeparator) root.chosen()
+    }
+}

@@ -1,0 +1,53 @@
+import QtQuick
+
+/// A small keyboard whose caps light up and sink with the keys. `factor` enlarges the whole drawing.
+Item {
+    id: root
+
+    required property MiniKeyboardViewModel model
+    property real factor: 1
+
+    Accessible.name: "Keyboard"
+    Accessible.role: Accessible.Graphic
+    implicitWidth: model.fullWidth * factor
+    implicitHeight: model.fullHeight * factor
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 8 * root.factor
+        color: Qt.alpha(Theme.chassisBg, 0.6)
+        border.color: Qt.alpha("white", 0.1)
+        border.width: root.factor
+    }
+
+    Column {
+        id: rows
+        anchors.centerIn: parent
+        spacing: root.model.rowGap * root.factor
+
+        Repeater {
+            model: root.model.rowCount
+
+            Row {
+                id: row
+
+                required property int index
+                readonly property MiniKeyboardRowViewModel keys: root.model.row(index)
+                readonly property real unit: keys.unitWidth(root.width / root.factor - 2 * root.model.padding) * root.factor
+
+                anchors.horizontalCenter: rows.horizontalCenter
+                spacing: root.model.keyGap * root.factor
+
+                Repeater {
+                    model: row.keys
+
+                    MiniKeyCap {
+                        factor: root.factor
+                        width: row.unit * widthRatio
+                        height: root.model.keyHeight * root.factor
+                    }
+                }
+            }
+        }
+    }
+}

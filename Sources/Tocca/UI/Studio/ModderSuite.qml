@@ -1,0 +1,84 @@
+import QtQuick
+
+/// Lube on the stems, and what the keyboard stands on.
+ConsoleSection {
+    id: root
+
+    required property AcousticsViewModel model
+
+    icon: "drop.fill"
+    spacing: 8
+    title: "The Modder Suite (Lube & Deskmat Acoustics)"
+
+    Item {
+        width: parent.width
+        height: lubeTitle.implicitHeight
+
+        Label {
+            id: lubeTitle
+            anchors.left: parent.left
+            anchors.right: lube.left
+            anchors.rightMargin: 12
+            color: Theme.textPrimary
+            font.weight: Font.Bold
+            size: Theme.rowTitleSize
+            text: "Krytox 205g0 Switch Stem Lube"
+        }
+
+        Label {
+            objectName: "lubeReading"
+            id: lube
+            anchors.baseline: lubeTitle.baseline
+            anchors.right: parent.right
+            color: Theme.amberAccent
+            font.weight: Font.Bold
+            text: root.model.lubeReading
+        }
+    }
+
+    Slider {
+        objectName: "lube"
+        width: parent.width
+        title: "Krytox 205g0 Switch Stem Lube"
+        value: root.model.lubeLevel
+        onMoved: value => root.model.setLubeLevel(value)
+    }
+
+    Label {
+        width: parent.width
+        size: Theme.captionSize
+        text: "Simulates buttery Krytox 205g0 friction dampening, smoothing scratchiness and deepening acoustic thock."
+        wrapMode: Text.WordWrap
+    }
+
+    Item {
+        width: 1
+        height: 4
+    }
+
+    Label {
+        width: parent.width
+        color: Theme.textPrimary
+        font.weight: Font.Bold
+        size: Theme.rowTitleSize
+        text: "Acoustic Desk Surface & Plate Material"
+    }
+
+    SegmentedPicker {
+        objectName: "deskSurface"
+        width: parent.width
+        currentIndex: root.model.deskSurface
+        labelLines: width < 680 ? 2 : 1
+        options: root.model.deskSurfaces
+        title: "Acoustic Desk Surface & Plate Material"
+        onChosen: index => root.model.chooseDeskSurface(index)
+    }
+
+    Label {
+        objectName: "deskSurfaceLine"
+        width: parent.width
+        size: Theme.captionSize
+        text: root.model.deskSurfaceDescription
+        wrapMode: Text.WordWrap
+    }
+}

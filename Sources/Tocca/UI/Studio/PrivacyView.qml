@@ -1,0 +1,75 @@
+import QtQuick
+
+/// When the sound falls silent by itself.
+StudioPage {
+    id: root
+
+    required property PrivacyViewModel model
+
+    title: "Smart Mute & Privacy"
+    subtitle: "Intelligent background muting so conference calls and sensitive credentials remain quiet."
+
+    ConsoleSection {
+        width: parent.width
+        icon: "mic.slash.fill"
+        title: "Hardware Microphone Call Protection"
+
+        CheckToggle {
+            objectName: "autoMuteOnCalls"
+            width: parent.width
+            checked: root.model.autoMuteOnCalls
+            line: "Automatically silences keystrokes when microphone streams are detected (Zoom, Meet, Teams, Discord, FaceTime)."
+            title: "Auto-Mute on Active Voice/Video Streams"
+            onToggled: root.model.toggleAutoMuteOnCalls()
+        }
+
+        Item {
+            objectName: "muteStatus"
+            Accessible.name: reason.text
+            Accessible.role: Accessible.AlertMessage
+            width: parent.width
+            height: reason.height
+            visible: root.model.isSmartMuted
+
+            Rectangle {
+                x: 6
+                y: Math.round((reason.firstLineHeight - height) / 2)
+                width: 6
+                height: 6
+                radius: 3
+                color: Theme.warning
+            }
+
+            Label {
+                id: reason
+
+                readonly property real firstLineHeight: implicitHeight / Math.max(1, lineCount)
+
+                x: 26
+                width: parent.width - x
+                color: Theme.warning
+                font.family: Theme.monoFace
+                font.weight: Font.Bold
+                maximumLineCount: 2
+                size: 11
+                text: root.model.muteStatus
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+
+    ConsoleSection {
+        width: parent.width
+        icon: "lock.shield.fill"
+        title: "Sensitive App Privacy"
+
+        CheckToggle {
+            objectName: "muteOnSensitiveApps"
+            width: parent.width
+            checked: root.model.muteOnSensitiveApps
+            line: "Automatically silences audio inside 1Password, Bitwarden, Keychain, and screen recording utilities."
+            title: "Auto-Silence in Password Managers"
+            onToggled: root.model.toggleMuteOnSensitiveApps()
+        }
+    }
+}

@@ -1,0 +1,46 @@
+pragma Strict
+import QtQuick
+
+/// The brand, and the button that hides the sidebar.
+Item {
+    id: root
+
+    signal collapseAsked
+
+    implicitHeight: 70
+
+    ToccaBrandLogoView {
+        id: logo
+        anchors.left: parent.left
+        anchors.leftMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+    }
+
+    Column {
+        anchors.left: logo.right
+        anchors.leftMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 1
+
+        Label {
+            color: Theme.textPrimary
+            font.weight: Font.Black
+            size: 16
+            text: "Tocca"
+        }
+
+        CapitalLabel {
+            color: Theme.amberAccent
+            size: 8.5
+            text: "STUDIO"
+        }
+    }
+
+    SidebarButton {
+        objectName: "hideSidebar"
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        onActivated: root.collapseAsked()
+    }
+}

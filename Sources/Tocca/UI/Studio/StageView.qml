@@ -1,0 +1,82 @@
+import QtQuick
+
+/// The keyboard that responds to every key, and a place to type.
+StudioPage {
+    id: root
+
+    required property StageViewModel model
+
+    title: "Keyboard Stage"
+    subtitle: "Interactive mechanical keyboard responding in real time to keystrokes in any app."
+    widest: 1640
+    accessory: Column {
+        id: soundstage
+        spacing: 2
+
+        CapitalLabel {
+            anchors.right: parent.right
+            text: "ACTIVE SOUNDSTAGE"
+        }
+
+        Label {
+            objectName: "activeSwitch"
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, 220)
+            color: Theme.amberAccent
+            font.weight: Font.Bold
+            size: 14
+            text: root.model.activeSwitchName
+        }
+    }
+
+    Card {
+        width: parent.width
+        implicitHeight: board.height + 2 * padding
+        padding: 20
+        radius: 12
+
+        MiniKeyboardVisualizer {
+            objectName: "board"
+            id: board
+            anchors.horizontalCenter: parent.horizontalCenter
+            factor: Math.max(1, Math.min(parent.width / model.fullWidth, (root.height - 280) / model.fullHeight, 3.2))
+            height: implicitHeight
+            model: root.model.keyboard
+            width: Math.min(implicitWidth, parent.width)
+        }
+    }
+
+    Card {
+        width: parent.width
+        implicitHeight: pad.y + pad.height + 2 * padding
+
+        CapitalLabel {
+            id: padTitle
+            color: Theme.textPrimary
+            size: 10
+            text: "LIVE INTERACTIVE TEST PAD"
+        }
+
+        Label {
+            anchors.baseline: padTitle.baseline
+            anchors.left: padTitle.right
+            anchors.leftMargin: 12
+            anchors.right: parent.right
+            color: Theme.textMuted
+            size: Theme.captionSize
+            text: "Type anywhere across macOS to hear acoustics"
+        }
+
+        TextEntry {
+            objectName: "testPad"
+            id: pad
+            y: padTitle.height + 10
+            width: parent.width
+            implicitHeight: 40
+            placeholder: "Type here to test loud mechanical acoustics & spatial panning..."
+            text: root.model.testTypingText
+            title: "Test pad"
+            onEdited: text => root.model.type(text)
+        }
+    }
+}

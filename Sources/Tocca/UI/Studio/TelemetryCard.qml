@@ -1,0 +1,48 @@
+pragma Strict
+import QtQuick
+
+/// A figure with what it measures above it and its unit behind it.
+Card {
+    id: root
+
+    property string title
+    property string value
+    property string unit
+    property color ink: Theme.textPrimary
+
+    Accessible.name: root.title + ": " + root.value + " " + root.unit
+    Accessible.role: Accessible.StaticText
+    implicitHeight: 100
+    radius: 8
+
+    CapitalLabel {
+        width: parent.width
+        text: root.title
+    }
+
+    Label {
+        id: figure
+        anchors.bottom: parent.bottom
+        width: Math.min(implicitWidth, parent.width)
+        color: root.ink
+        elide: Text.ElideNone
+        font.letterSpacing: -0.5
+        font.weight: Font.ExtraBold
+        fontSizeMode: Text.HorizontalFit
+        minimumPointSize: 12
+        size: 30
+        text: root.value
+    }
+
+    Label {
+        anchors.baseline: figure.baseline
+        anchors.left: figure.right
+        anchors.leftMargin: 6
+        anchors.right: parent.right
+        color: Theme.textMuted
+        font.letterSpacing: 0.4
+        font.weight: Font.Medium
+        size: 10
+        text: root.unit
+    }
+}
