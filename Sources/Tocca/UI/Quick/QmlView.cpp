@@ -8,9 +8,19 @@
 
 namespace tocca::ui {
 
+namespace {
+
+/// Where the program's own module is; this version of the engine does not look there by itself.
+const QString kModules = QStringLiteral("qrc:/qt/qml");
+
+} // namespace
+
 QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model, QQuickItem& parent)
 {
-    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt/qml/Tocca/UI/") + file));
+    if (!engine.importPathList().contains(kModules)) {
+        engine.addImportPath(kModules);
+    }
+    QQmlComponent component(&engine, QUrl(kModules + QStringLiteral("/Tocca/UI/") + file));
     auto* item = qobject_cast<QQuickItem*>(
         component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}}));
     if (item == nullptr) {
