@@ -52,7 +52,7 @@ MODULE = re.compile(r"\b(?:app_module|set|list)\s*\(([^)]*)\)")
 HEADER_LISTS = {"HEADERS", "TOCCA_UI_HEADERS"}
 
 # The parts of the interface that stand on the toolkit.
-VIEW = re.compile(r"^UI/(Quick/.*|.*ViewModel\.(h|cpp))$")
+VIEW = re.compile(r"^UI/((Quick|Controls|Symbols)/.*|.*ViewModel\.(h|cpp))$")
 
 
 def layer(path):
