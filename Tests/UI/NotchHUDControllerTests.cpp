@@ -15,7 +15,7 @@ struct NotchHUD : ControllersOnMemory, testing::Test {
     NotchHUD()
     {
         underglow.isEnabled.set(false);
-        panels().clear();
+        host.settle();
         notchHUD.setup();
     }
 

@@ -13,6 +13,8 @@ using platform::Rect;
 using platform::Screen;
 
 struct Underglow : ControllersOnMemory, testing::Test {
+    Underglow() { host.settle(); }
+
     void strike(std::uint16_t keyCode = 0)
     {
         engine.playKey(keyCode, audio::KeyStrokeAction::down);
