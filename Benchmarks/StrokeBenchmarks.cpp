@@ -80,7 +80,16 @@ struct Packs {
                         .files = files,
                         .fileStore = memory.fileStore(),
                         .random = memory.random(),
-                        .standardOutput = memory.standardOutput()};
+                        .standardOutput = memory.standardOutput(),
+                        .application = memory.application(),
+                        .screens = memory.screens(),
+                        .windows = memory.windows(),
+                        .panels = memory.panels(),
+                        .popovers = memory.popovers(),
+                        .statusBar = memory.statusBar(),
+                        .mainMenu = memory.mainMenu(),
+                        .openPanels = memory.openPanels(),
+                        .userDefaults = memory.userDefaults()};
     ThreadRoleScope role{ThreadRole::Main};
 
     Packs()

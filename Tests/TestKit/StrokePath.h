@@ -139,7 +139,16 @@ private:
                          .files = memory_.files(),
                          .fileStore = memory_.fileStore(),
                          .random = memory_.random(),
-                         .standardOutput = memory_.standardOutput()};
+                         .standardOutput = memory_.standardOutput(),
+                         .application = memory_.application(),
+                         .screens = memory_.screens(),
+                         .windows = memory_.windows(),
+                         .panels = memory_.panels(),
+                         .popovers = memory_.popovers(),
+                         .statusBar = memory_.statusBar(),
+                         .mainMenu = memory_.mainMenu(),
+                         .openPanels = memory_.openPanels(),
+                         .userDefaults = memory_.userDefaults()};
     audio::SoundPackLoader loader_{host_};
     audio::AudioEngine engine_{host_, loader_, [] { return false; }};
     keyboard::KeyboardMonitor monitor_{host_, engine_};
