@@ -1,5 +1,5 @@
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(TOCCA_XCB REQUIRED IMPORTED_TARGET xcb xcb-res xcb-xfixes xcb-xinput xcb-xkb)
+pkg_check_modules(TOCCA_XCB REQUIRED IMPORTED_TARGET xcb xcb-res xcb-shape xcb-xfixes xcb-xinput xcb-xkb)
 
 # What hears the session's keys on X11; knows no toolkit.
 app_module(tocca_linux_capture

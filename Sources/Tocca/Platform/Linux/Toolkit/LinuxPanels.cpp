@@ -11,12 +11,32 @@
 
 namespace tocca::platform::linux {
 
+namespace {
+
+class OverlayWindow final : public ContentWindow {
+public:
+    explicit OverlayWindow(OwnWindows& family)
+        : ContentWindow(family, Kind::overlay)
+    {}
+
+private:
+    void exposeEvent(QExposeEvent* event) override
+    {
+        ContentWindow::exposeEvent(event);
+        if (auto desktop = XDesktop::requests(); desktop && isExposed()) {
+            desktop->passInputThrough(static_cast<xcb_window_t>(winId()));
+        }
+    }
+};
+
+} // namespace
+
 class LinuxPanels::LinuxPanel final : public Panel {
 public:
     LinuxPanel(LinuxPanels& owner, WindowLevel level, std::unique_ptr<View> content)
         : owner_(owner)
         , level_(level)
-        , window_(owner.family_, ContentWindow::Kind::overlay)
+        , window_(owner.family_)
         , composition_(owner.desktop_.onChange([this] { update(); }))
     {
         window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
@@ -86,7 +106,7 @@ private:
     LinuxPanels& owner_;
     const WindowLevel level_;
     bool isVisible_ = false;
-    ContentWindow window_;
+    OverlayWindow window_;
     Subscription composition_;
 };
 

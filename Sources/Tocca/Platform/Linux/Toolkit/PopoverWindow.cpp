@@ -24,7 +24,7 @@ QPoint popoverPlace(const QRect& anchor, const QSize& size, const QRect& area)
     const int below = anchor.bottom() + 1 + kGap;
     const int above = anchor.top() - kGap - size.height();
     const bool fitsBelow = below + size.height() <= area.bottom() + 1;
-    const int x = anchor.center().x() - size.width() / 2;
+    const int x = anchor.left() + (anchor.width() - size.width()) / 2;
     const int y = fitsBelow ? below : above;
     return {std::max(area.left(), std::min(x, area.right() + 1 - size.width())),
             std::max(area.top(), std::min(y, area.bottom() + 1 - size.height()))};

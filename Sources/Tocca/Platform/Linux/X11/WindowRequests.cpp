@@ -2,6 +2,8 @@
 
 #include "Platform/Linux/X11/XReply.h"
 
+#include <xcb/shape.h>
+
 #include <algorithm>
 #include <cstddef>
 
@@ -37,6 +39,13 @@ void WindowRequests::makeOverlay(xcb_window_t window)
              {atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
               atom("_NET_WM_STATE_SKIP_PAGER"), atom("_NET_WM_STATE_ABOVE")});
     setWords(window, "_COMPTON_SHADOW", XCB_ATOM_CARDINAL, {0});
+}
+
+void WindowRequests::passInputThrough(xcb_window_t window)
+{
+    xcb_shape_rectangles(connection_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+                         window, 0, 0, 0, nullptr);
+    xcb_flush(connection_);
 }
 
 void WindowRequests::bringToCurrentDesktop(xcb_window_t window)

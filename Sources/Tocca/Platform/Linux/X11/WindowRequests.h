@@ -25,6 +25,10 @@ public:
     /// Before it is shown: the window is to be on every desktop, absent from task bar and switcher, and without a shadow.
     void makeOverlay(xcb_window_t window);
 
+    /// Lets everything that the pointer does pass through a window that is shown. Asked for before, some window managers overlook it and
+    /// keep what passes through in the frame that they have put around the window.
+    void passInputThrough(xcb_window_t window);
+
     /// Brings a window that is shown, if on another desktop, to the one that the person is on.
     void bringToCurrentDesktop(xcb_window_t window);
 
