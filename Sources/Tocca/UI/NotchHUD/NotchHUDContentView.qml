@@ -19,10 +19,14 @@ Item {
     Item {
         id: capsule
 
+        objectName: "capsule"
         anchors.fill: parent
         opacity: opening.value
         scale: 0.7 + 0.3 * opening.value
         visible: opacity > 0
+        // Faded as one picture; at rest the figures stay as crisp as the screen.
+        layer.enabled: opacity < 1
+        layer.smooth: true
 
         CapsulePlate {
             anchors.fill: parent
@@ -53,6 +57,7 @@ Item {
         Text {
             id: name
 
+            objectName: "name"
             anchors.left: badge.right
             anchors.leftMargin: 10
             anchors.right: pill.left
@@ -84,6 +89,7 @@ Item {
         SpeedPill {
             id: pill
 
+            objectName: "pill"
             anchors.right: parent.right
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter

@@ -28,6 +28,7 @@ Item {
         spacing: 4
 
         Symbol {
+            objectName: "speedometer"
             anchors.verticalCenter: parent.verticalCenter
             color: root.isFast ? Theme.warning : Theme.hudSymbol
             name: "speedometer"
@@ -35,6 +36,7 @@ Item {
         }
 
         Text {
+            objectName: "speed"
             anchors.verticalCenter: parent.verticalCenter
             color: root.isFast ? Theme.warning : Theme.hudText
             font.family: Theme.monoFace

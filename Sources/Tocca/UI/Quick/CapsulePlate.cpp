@@ -24,15 +24,20 @@ double distance(const QPointF& point, const QSizeF& size)
     return std::hypot(std::max(x, 0.0), std::max(y, 0.0)) - radius;
 }
 
+/// 0 at both ends of `length`, 1 where the shadow's blur is away from them.
+double softly(double position, double length)
+{
+    const double inside = std::clamp(std::min(position, length - position) / kShadowBlur, 0.0, 1.0);
+    return inside * inside * (3 - 2 * inside);
+}
+
 double shadowAt(const QPointF& point, const QSizeF& size)
 {
     // A blur reaches as far as its radius, so the spread of its bell is half of that.
     const double fall =
         std::erfc(distance(point - QPointF(0, kShadowDrop), size) * M_SQRT2 / kShadowBlur) / 2;
-    const double toEdge =
-        std::min({point.x(), point.y(), size.width() - point.x(), size.height() - point.y()});
-    const double margin = std::clamp(toEdge / (kShadowBlur / 2), 0.0, 1.0);
-    return fall * margin * margin * (3 - 2 * margin);
+    const double margin = softly(point.x(), size.width()) * softly(point.y(), size.height());
+    return fall * margin;
 }
 
 } // namespace
