@@ -1,6 +1,7 @@
 #include "Platform/Linux/Toolkit/DBusMenuTypes.h"
 
 #include <QDBusMetaType>
+#include <QStringList>
 
 namespace tocca::platform::linux {
 
@@ -66,6 +67,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& ev
 
 void registerDBusMenuTypes()
 {
+    qDBusRegisterMetaType<QList<QStringList>>(); // shortcuts
     qDBusRegisterMetaType<DBusMenuEntry>();
     qDBusRegisterMetaType<QList<DBusMenuEntry>>();
     qDBusRegisterMetaType<DBusMenuTree>();
