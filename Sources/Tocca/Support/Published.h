@@ -62,7 +62,7 @@ public:
                     (*live)(*boxed);
                 }
             });
-        };
+        }; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the task owns it
         deliver(get());
         // The token alone keeps the observer alive, so queued deliveries die with it.
         auto link = std::make_shared<Subscription>(onChange(std::move(deliver)));

@@ -11,16 +11,19 @@ namespace tocca::ui {
 namespace {
 
 /// Where the program's own module is; this version of the engine does not look there by itself.
-const QString kModules = QStringLiteral("qrc:/qt/qml");
+QString modules()
+{
+    return QStringLiteral("qrc:/qt/qml");
+}
 
 } // namespace
 
 QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model, QQuickItem& parent)
 {
-    if (!engine.importPathList().contains(kModules)) {
-        engine.addImportPath(kModules);
+    if (!engine.importPathList().contains(modules())) {
+        engine.addImportPath(modules());
     }
-    QQmlComponent component(&engine, QUrl(kModules + QStringLiteral("/Tocca/UI/") + file));
+    QQmlComponent component(&engine, QUrl(modules() + QStringLiteral("/Tocca/UI/") + file));
     auto* item = qobject_cast<QQuickItem*>(
         component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}}));
     if (item == nullptr) {
