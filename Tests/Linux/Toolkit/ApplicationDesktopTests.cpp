@@ -56,17 +56,25 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
     Lines lines;
     LinuxApplication application(
         {.windows = windows, .output = lines, .hasStatusIcon = [] { return false; }});
+    LinuxWindows factory(windows);
+    Content content;
+    const auto window = factory.make(
+        {.title = "Studio", .contentSize = {400, 300}, .minimumSize = {200, 100}, .background = {}},
+        content.view());
+    window->setShouldClose([] { return false; });
     std::optional<int> secondsStatus;
     Delegate delegate([&] {
         testkit::Process second({TOCCA_SECOND_INSTANCE});
         runUntil(
             [&] { return (secondsStatus = second.waitForExit(std::chrono::milliseconds(1))).has_value(); });
         application.setActivationPolicy(ActivationPolicy::regular);
+        window->makeKeyAndOrderFront();
+        EXPECT_TRUE(runUntil([&] { return content.isShown(); }));
         application.setActivationPolicy(ActivationPolicy::accessory);
         application.setActivationPolicy(ActivationPolicy::accessory);
         application.terminate();
     });
-    EXPECT_EQ(application.run(delegate), 0);
+    EXPECT_EQ(application.run(delegate), 0) << "although a window would rather stay";
     EXPECT_EQ(secondsStatus, 0);
     EXPECT_EQ(delegate.reopenings, 1);
     EXPECT_THAT(lines.lines,

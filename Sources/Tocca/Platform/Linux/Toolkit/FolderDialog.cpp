@@ -3,6 +3,7 @@
 #include "Platform/Linux/Toolkit/WindowActivation.h"
 #include "Platform/Linux/Toolkit/XDesktop.h"
 
+#include <QDir>
 #include <QMetaObject>
 #include <QQmlComponent>
 #include <QQuickWindow>
@@ -22,7 +23,9 @@ std::unique_ptr<FolderDialog> FolderDialog::open(const QString& prompt, Completi
     // Not make_unique: the constructor is private.
     std::unique_ptr<FolderDialog> dialog(new FolderDialog(std::move(completion)));
     QQmlComponent component(&dialog->engine_, QUrl(QStringLiteral("qrc:/org.tocca/FolderDialog.qml")));
-    QObject* const root = component.createWithInitialProperties({{QStringLiteral("prompt"), prompt}});
+    QObject* const root = component.createWithInitialProperties(
+        {{QStringLiteral("prompt"), prompt},
+         {QStringLiteral("home"), QUrl::fromLocalFile(QDir::homePath())}});
     auto* const window = qobject_cast<QQuickWindow*>(root);
     if (window == nullptr) {
         delete root;

@@ -6,15 +6,22 @@ Window {
     id: root
 
     required property string prompt
+    required property url home
 
     signal chosen(url folder)
     signal cancelled
 
-    width: 720
-    height: 500
+    // As large as the dialog, which the toolkit centres.
+    width: 600
+    height: 400
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: height
+    maximumHeight: height
     title: qsTr("Choose a Folder")
     flags: Qt.Dialog
     color: palette.window
+    palette.highlightedText: palette.text
 
     Component.onCompleted: dialog.open()
     onClosing: root.cancelled()
@@ -23,6 +30,7 @@ Window {
         id: dialog
 
         acceptLabel: root.prompt
+        currentFolder: root.home
         options: FolderDialog.DontUseNativeDialog
         parentWindow: root
 

@@ -72,7 +72,7 @@ void LinuxApplication::activate()
 
 void LinuxApplication::terminate()
 {
-    QCoreApplication::quit();
+    QCoreApplication::exit(); // not quit, which asks the windows first, and ours refuse
 }
 
 void LinuxApplication::reopen()

@@ -20,11 +20,21 @@ TerminationSignals::TerminationSignals()
         return; // the signals then end the process at once, as they would without this
     }
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    if (QCoreApplication::instance() != nullptr) {
+        attach();
+    }
+}
+
+void TerminationSignals::attach()
+{
+    if (!descriptor_.isOpen()) {
+        return;
+    }
     notifier_ = std::make_unique<QSocketNotifier>(descriptor_.get(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
         signalfd_siginfo info{};
         if (read(descriptor_.get(), &info, sizeof(info)) == static_cast<ssize_t>(sizeof(info))) {
-            QCoreApplication::quit();
+            QCoreApplication::exit(); // not quit, which asks the windows first, and ours refuse
         }
     });
 }

@@ -10,10 +10,15 @@ namespace tocca::platform::linux {
 
 /// Makes SIGTERM, SIGINT and SIGHUP end the toolkit's event loop instead of the process.
 ///
-/// Lifetime: made on the main thread before any other thread starts, so that all of them leave the signals alone.
+/// Lifetime: made on the main thread before any other thread starts, so that all of them leave the signals alone. An application object
+/// with windows starts one: then make this first and `attach` it afterwards.
 class TerminationSignals {
 public:
+    /// Attaches itself when the application object is there already.
     TerminationSignals();
+
+    /// Has the event loop look after the signals. Order: after the application object; once.
+    void attach();
 
 private:
     FileDescriptor descriptor_;
