@@ -31,7 +31,8 @@ Window {
 
         acceptLabel: root.prompt
         currentFolder: root.home
-        options: FolderDialog.DontUseNativeDialog
+        // The toolkit's own description of the type leaves these out.
+        options: FolderDialog.DontUseNativeDialog // qmllint disable
         parentWindow: root
 
         onAccepted: root.chosen(dialog.selectedFolder)
