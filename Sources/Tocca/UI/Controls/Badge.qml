@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A short fact on a tint of its colour.
 Rectangle {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The console with every setting of the sound.
 StudioPage {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Selects a sound and lets it be heard.
 Pressable {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The page of the selected tab. A page is made when it is first shown, and stays.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A borderless menu of filters; amber while it filters anything.
 Pressable {

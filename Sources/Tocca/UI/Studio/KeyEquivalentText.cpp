@@ -17,9 +17,9 @@ std::string keyEquivalentText(const platform::KeyEquivalent& equivalent)
         return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - ('a' - 'A')) : letter;
     });
     std::string text;
-    text += equivalent.control ? "Meta+" : "";
     text += equivalent.command ? "Ctrl+" : "";
     text += equivalent.option ? "Alt+" : "";
+    text += equivalent.control ? "Super+" : "";
     text += isCapital ? "Shift+" : "";
     return text + key;
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The content of the Studio window: menu strip, sidebar, and the page of the selected tab.
 FocusScope {

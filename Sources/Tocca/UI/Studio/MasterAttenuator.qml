@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The volume, by slider and by presets.
 ConsoleSection {

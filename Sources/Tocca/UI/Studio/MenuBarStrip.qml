@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The main menu in a slim bar, for desktops that do not show it themselves. F10 or Alt opens it.
 Rectangle {
@@ -77,9 +78,9 @@ Rectangle {
         id: sheet
         parent: root.sheetParent
         anchors.fill: parent
-        left: row.x + (titles.itemAt(root.model.openMenu)?.x ?? 0)
+        sheetX: row.x + (titles.itemAt(root.model.openMenu)?.x ?? 0)
         model: root.model.items
-        top: root.height
+        sheetY: root.height
         visible: root.model.openMenu >= 0
         z: 800
         onClosed: root.close()

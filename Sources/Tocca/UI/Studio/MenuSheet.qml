@@ -1,12 +1,13 @@
 import QtQuick
+import Tocca.UI
 
 /// An open menu under its title, over the whole window: a press beside it closes it.
 FocusScope {
     id: root
 
     required property MenuItemsViewModel model
-    required property real left
-    required property real top
+    required property real sheetX
+    required property real sheetY
 
     signal chosen(int row)
     signal moved(int step)
@@ -31,15 +32,15 @@ FocusScope {
 
     MouseArea {
         anchors.fill: parent
-        anchors.topMargin: root.top
+        anchors.topMargin: root.sheetY
         onPressed: root.closed()
         onWheel: wheel => wheel.accepted = true
     }
 
     Card {
         Accessible.role: Accessible.PopupMenu
-        x: root.left
-        y: root.top + 2
+        x: root.sheetX
+        y: root.sheetY + 2
         width: 268
         implicitHeight: list.contentHeight + 2 * padding
         padding: 5

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// An item of an open menu: check mark, title, and the keys that choose it.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// A cap of the drawn keyboard; lit and pressed in while its key is active.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// A small keyboard whose caps light up and sink with the keys. `factor` enlarges the whole drawing.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// Lube on the stems, and what the keyboard stands on.
 ConsoleSection {

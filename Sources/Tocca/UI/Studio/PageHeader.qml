@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A page's title over its line. `accessory` stands at the right.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The sounds of mouse and wheel.
 ConsoleSection {

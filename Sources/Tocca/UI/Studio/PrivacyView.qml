@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// When the sound falls silent by itself.
 StudioPage {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// How the program sits in the system.
 StudioPage {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The cards of the page in as many columns of 260 to 360 points as fit.
 ScrollArea {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The showroom's title, and what narrows the cards down. The controls take a row of their own where the window is narrow.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Turns the pages of the showroom and tells which part is shown.
 Rectangle {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// Every switch and pack as a card, a page at a time.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// Brand, the tabs, and whether the session is heard.
 FocusScope {

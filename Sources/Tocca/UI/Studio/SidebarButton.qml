@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Hides the sidebar, or shows it again.
 Pressable {

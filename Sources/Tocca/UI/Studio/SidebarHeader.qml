@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// The brand, and the button that hides the sidebar.
 Item {

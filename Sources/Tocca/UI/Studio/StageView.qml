@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The keyboard that responds to every key, and a place to type.
 StudioPage {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// One sound: what it is, whether it plays, and the button that lets it be heard.
 Card {

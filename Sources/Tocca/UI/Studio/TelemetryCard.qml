@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A figure with what it measures above it and its unit behind it.
 Card {

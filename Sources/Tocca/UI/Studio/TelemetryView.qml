@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// Figures of the running program.
 StudioPage {

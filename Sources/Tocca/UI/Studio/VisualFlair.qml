@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The overlays on the desktop.
 ConsoleSection {
