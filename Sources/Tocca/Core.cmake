@@ -22,6 +22,10 @@ app_module(tocca_core
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
         UI/Controllers.cpp
+        UI/MenuBar/CommunityPage.cpp
+        UI/MenuBar/FileUrl.cpp
+        UI/MenuBar/PackImport.cpp
+        UI/MenuBar/SoundPackRows.cpp
         UI/NotchHUD/NotchAcousticHUDController.cpp
         UI/Underglow/SpatialUnderglowController.cpp
         UI/Underglow/UnderglowTheme.cpp
@@ -62,6 +66,10 @@ app_module(tocca_core
         Keyboard/KeyboardMonitor.h
         Keyboard/TypingSpeed.h
         UI/Controllers.h
+        UI/MenuBar/CommunityPage.h
+        UI/MenuBar/FileUrl.h
+        UI/MenuBar/PackImport.h
+        UI/MenuBar/SoundPackRows.h
         UI/NotchHUD/NotchAcousticHUDController.h
         UI/NotchHUD/Waveform.h
         UI/Studio/KeyEquivalentText.h

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// How a button looks: symbols around a text.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A small heavy label; its text is given in capitals.
 Label {

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Tocca.UI
 
 /// A white surface for what belongs together; as high as its content unless told otherwise.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A check box with its title and line; the whole row is the target.
 Pressable {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Empties the field at whose right end it stands.
 Pressable {

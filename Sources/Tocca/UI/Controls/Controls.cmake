@@ -1,6 +1,7 @@
 list(APPEND TOCCA_UI_QML
     Controls/Badge.qml
     Controls/ButtonFace.qml
+    Controls/ButtonGround.qml
     Controls/CapitalLabel.qml
     Controls/Card.qml
     Controls/CheckToggle.qml

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Shows around its parent that the keyboard acts there.
 Rectangle {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Text as it is, never markup. `size` may be a fraction of a point.
 Text {

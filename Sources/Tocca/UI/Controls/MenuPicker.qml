@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// Shows one of several options and asks for another through a menu or the arrow keys.
 Pressable {
@@ -19,11 +20,10 @@ Pressable {
     Keys.onUpPressed: root.chosen(Math.max(0, root.currentIndex - 1))
     Keys.onDownPressed: root.chosen(Math.min(root.options.length - 1, root.currentIndex + 1))
 
-    Rectangle {
-        anchors.fill: parent
+    ButtonGround {
+        hovered: root.hovered
+        pressed: root.pressed
         radius: root.radius
-        color: root.pressed ? Qt.tint(Theme.cardBg, Qt.alpha("black", Theme.pressedShade)) : Theme.cardBg
-        border.color: root.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
     }
 
     Label {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A button whose bounds show under the pointer only.
 Pressable {

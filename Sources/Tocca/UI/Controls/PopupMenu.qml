@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Tocca.UI
 
 /// A list of options over the window, under its target where there is room. Arrows, Return and Escape act in it; a press beside it closes it.
 Item {

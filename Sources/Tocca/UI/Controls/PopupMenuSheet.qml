@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Tocca.UI
 
 /// An open menu with the window around it.
 MouseArea {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// What everything that can be pressed has in common: pointer, keys, focus, hint and what assistive programs are told.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A button on a surface of its own. `on` marks one that stands for a chosen state.
 Pressable {
@@ -16,15 +17,11 @@ Pressable {
     implicitWidth: face.implicitWidth
     implicitHeight: Theme.controlHeight
 
-    Rectangle {
-        anchors.fill: parent
+    ButtonGround {
+        hovered: root.hovered
+        on: root.on
+        pressed: root.pressed
         radius: root.radius
-        color: root.pressed ? Qt.tint(Theme.cardBg, Qt.alpha("black", Theme.pressedShade)) : Theme.cardBg
-        border.color: root.on ? Qt.alpha(Theme.amberAccent, 0.7) : root.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
-
-        Behavior on border.color {
-            ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
-        }
     }
 
     ButtonFace {

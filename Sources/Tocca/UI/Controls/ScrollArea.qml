@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// Shows a column that is higher than itself. It follows the wheel, the bar at its right edge, Page keys and the keyboard's focus.
 FocusScope {
@@ -35,9 +36,11 @@ FocusScope {
     onLowestChanged: if (flick.contentY > lowest) flick.contentY = lowest
 
     Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp;
+        const page = root.height - 60;
+        const steps = new Map([[Qt.Key_PageDown, page], [Qt.Key_PageUp, -page], [Qt.Key_End, lowest], [Qt.Key_Home, -lowest]]);
+        event.accepted = steps.has(event.key);
         if (event.accepted)
-            root.scrollBy((event.key === Qt.Key_PageDown ? 1 : -1) * (root.height - 60));
+            root.scrollBy(steps.get(event.key));
     }
 
     Flickable {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// The thin bar over a scroll area's right edge, seen while it scrolls or is under the pointer.
 MouseArea {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A capital title over rows. `accessory` stands at the title's right end.
 Item {

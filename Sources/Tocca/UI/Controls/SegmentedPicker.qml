@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Tocca.UI
 
 /// Options side by side; shows the chosen one and asks for another. Long labels take two lines.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A level between two ends. It shows `value` and asks for another one: by drag, wheel, arrows (1 %), Page keys (10 %), Home and End.
 Item {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// How a slider looks: a track filled up to a knob.
 Item {

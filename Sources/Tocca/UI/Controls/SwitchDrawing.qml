@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// How a switch looks, without what it does.
 Rectangle {

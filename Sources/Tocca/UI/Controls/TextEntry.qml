@@ -1,4 +1,5 @@
 import QtQuick
+import Tocca.UI
 
 /// One line of text. It shows `text` and asks for what is typed; `symbol` stands before it, and a filled one may be cleared.
 Item {

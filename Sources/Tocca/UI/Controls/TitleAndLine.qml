@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A row's title over the line that explains it, when there is one.
 Column {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A switch that shows `checked` and asks for the opposite.
 Pressable {

@@ -1,5 +1,6 @@
 pragma Strict
 import QtQuick
+import Tocca.UI
 
 /// A switch with its symbol, title and line; the whole row is the target.
 Pressable {
@@ -7,6 +8,7 @@ Pressable {
 
     property string icon
     property string line
+    property bool indented: icon !== "" // into the column of the titles
     property bool checked
 
     signal toggled
@@ -32,7 +34,7 @@ Pressable {
     TitleAndLine {
         id: words
         anchors.left: parent.left
-        anchors.leftMargin: root.icon === "" ? 0 : Theme.symbolColumn + 10
+        anchors.leftMargin: root.indented ? Theme.symbolColumn + 10 : 0
         anchors.right: drawing.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Tocca.UI
 
 /// Explains its target while the pointer rests on it; stays inside the window.
 Item {

@@ -1,0 +1,67 @@
+pragma Strict
+import QtQuick
+import Tocca.UI
+
+/// How loud the sounds are, and two more of their qualities.
+Column {
+    id: root
+
+    required property MenuBarViewModel model
+
+    spacing: Theme.rowGap
+
+    Item {
+        width: root.width
+        height: 24
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            x: 2
+            color: Theme.amberAccent
+            name: "speaker.wave.2.fill"
+            size: 16
+        }
+
+        Slider {
+            objectName: "volume"
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.symbolColumn + 10
+            anchors.right: reading.left
+            anchors.rightMargin: 8
+            title: qsTr("Volume")
+            value: root.model.volume
+            onMoved: value => root.model.setVolume(value)
+        }
+
+        Label {
+            id: reading
+            objectName: "volumeReading"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: 38
+            color: Theme.mintStatus
+            font.weight: Font.DemiBold
+            horizontalAlignment: Text.AlignRight
+            text: root.model.volumeReading
+        }
+    }
+
+    ToggleRow {
+        objectName: "isPresenceEQEnabled"
+        width: root.width
+        checked: root.model.isPresenceEQEnabled
+        indented: true
+        line: "+3dB Thock/Clack"
+        title: "Acoustic Presence Contour"
+        onToggled: root.model.togglePresenceEQ()
+    }
+
+    ToggleRow {
+        objectName: "playsUpstroke"
+        width: root.width
+        checked: root.model.playsUpstroke
+        indented: true
+        title: "Play Key Release (Upstroke Rebound)"
+        onToggled: root.model.toggleUpstroke()
+    }
+}

@@ -1,0 +1,67 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tocca.UI
+
+/// The popover: every everyday setting in one column.
+Rectangle {
+    id: root
+
+    required property MenuBarViewModel model
+    readonly property bool shown: visible && Window.window !== null && Window.visibility !== Window.Hidden
+
+    onShownChanged: if (shown) root.model.aboutToShow()
+
+    color: Theme.chassisBg
+    implicitWidth: 360
+    implicitHeight: 560
+
+    ScrollArea {
+        objectName: "scrollArea"
+        anchors.fill: parent
+        contentHeight: column.height
+        focus: true
+
+        Column {
+            id: column
+
+            readonly property int margin: 16
+
+            width: root.width
+            spacing: 14
+            topPadding: 14
+            bottomPadding: 14
+
+            component Rule: Divider { width: column.width }
+            component Slot: Loader { x: column.margin; width: column.width - 2 * column.margin; visible: active }
+
+            HeaderSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Slot { active: root.model.isSmartMuted; sourceComponent: SmartMutedCard { model: root.model } }
+            Rule {}
+            QuickTestBar { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Slot { active: !root.model.hasAccessibilityPermission; sourceComponent: PermissionCard { model: root.model } }
+            Rule {}
+            SoundPackSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            SmartMuteControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            ImmersionControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            VisualFlairSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            AcousticModderSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            PeripheralAudioSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            AudioControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
+            TypingPadSection { x: column.margin; width: column.width - 2 * x }
+            Rule {}
+            FooterSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+        }
+    }
+
+    PackDropTarget {
+        anchors.fill: parent
+        model: root.model
+    }
+}

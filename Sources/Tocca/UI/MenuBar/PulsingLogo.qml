@@ -1,0 +1,30 @@
+pragma Strict
+import QtQuick
+import Tocca.UI
+
+/// The brand mark, which beats with every change of `trigger`.
+ToccaBrandLogoView {
+    id: root
+
+    required property real trigger
+
+    onTriggerChanged: if (!Theme.reducesMotion) beat.restart()
+    transformOrigin: Item.Center
+
+    SequentialAnimation on scale {
+        id: beat
+        running: false
+
+        NumberAnimation {
+            to: 1.08
+            duration: 60
+            easing.type: Easing.OutCubic
+        }
+
+        NumberAnimation {
+            to: 1
+            duration: 160
+            easing.type: Easing.OutCubic
+        }
+    }
+}

@@ -1,0 +1,32 @@
+pragma Strict
+import QtQuick
+import Tocca.UI
+
+/// Says that all sound is held back, and why.
+Card {
+    id: root
+
+    required property MenuBarViewModel model
+
+    objectName: "smartMutedCard"
+    borderColor: Qt.tint(Theme.cardBorder, Qt.alpha(Theme.warning, 0.5))
+    color: Qt.tint(Theme.cardBg, Qt.alpha(Theme.warning, 0.06))
+    padding: 12
+
+    Symbol {
+        id: symbol
+        anchors.verticalCenter: words.verticalCenter
+        x: 1
+        color: Theme.warning
+        name: "mic.slash.fill"
+        size: 18
+    }
+
+    TitleAndLine {
+        id: words
+        x: Theme.symbolColumn + 10
+        width: root.width - 2 * root.padding - x
+        line: root.model.smartMuteReason
+        title: "Smart Mute Active"
+    }
+}

@@ -1,0 +1,59 @@
+pragma Strict
+import QtQuick
+import Tocca.UI
+
+/// One sound to choose.
+Pressable {
+    id: root
+
+    required property int index
+    required property string icon
+    required property string line
+    required property bool isSelected
+    required title
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.checkable: true
+    Accessible.checked: root.isSelected
+    Accessible.description: root.line
+    implicitHeight: Math.max(Theme.rowHeight, words.implicitHeight + 14)
+    radius: 8
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: -8
+        anchors.rightMargin: -8
+        radius: root.radius
+        color: root.isSelected ? Qt.alpha(Theme.amberAccent, root.pressed ? 0.14 : 0.09)
+                               : Qt.alpha("black", root.pressed ? Theme.hoverShade + Theme.pressedShade : root.hovered ? Theme.hoverShade : 0)
+    }
+
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        x: 2
+        color: root.isSelected ? Theme.amberAccent : Theme.textMuted
+        name: root.icon
+        size: 16
+    }
+
+    TitleAndLine {
+        id: words
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.symbolColumn + 10
+        anchors.right: mark.left
+        anchors.rightMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        line: root.line
+        title: root.title
+    }
+
+    Symbol {
+        id: mark
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.amberAccent
+        name: "checkmark.circle.fill"
+        opacity: root.isSelected ? 1 : 0
+        size: 16
+    }
+}

@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Tocca.UI
+
+/// The built-in sounds, the imported ones, and how the last import went.
+Section {
+    id: root
+
+    required property MenuBarViewModel model
+
+    title: "STUDIO SOUND PACKS"
+    accessory: PlainButton {
+        objectName: "import"
+        implicitHeight: 28
+        color: Theme.amberAccent
+        symbol: "plus.circle"
+        text: "Import"
+        onActivated: root.model.openSoundPackImporter()
+    }
+    spacing: 2
+
+    Repeater {
+        model: root.model.builtInPacks
+
+        delegate: SoundPackRow {
+            objectName: "builtInPack" + index
+            width: root.width
+            onActivated: root.model.chooseBuiltInPack(index)
+        }
+    }
+
+    Loader {
+        active: root.model.hasCommunityLibrary
+        visible: active
+        sourceComponent: CommunityLibrary {
+            width: root.width
+            model: root.model
+        }
+    }
+
+    Label {
+        objectName: "importMessage"
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        width: root.width
+        color: Theme.mintStatus
+        elide: Text.ElideNone
+        font.weight: Font.Medium
+        text: root.model.importMessage
+        topPadding: 6
+        visible: text !== ""
+        wrapMode: Text.Wrap
+    }
+}
