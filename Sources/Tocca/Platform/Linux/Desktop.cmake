@@ -59,6 +59,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Toolkit/DBusMenu.cpp
         Platform/Linux/Toolkit/DBusMenuTypes.cpp
         Platform/Linux/Toolkit/DesktopNotice.cpp
+        Platform/Linux/Toolkit/DisplayChoice.cpp
         Platform/Linux/Toolkit/FolderDialog.cpp
         Platform/Linux/Toolkit/FolderPortal.cpp
         Platform/Linux/Toolkit/IconPainting.cpp
@@ -99,6 +100,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Toolkit/DBusMenu.h
         Platform/Linux/Toolkit/DBusMenuTypes.h
         Platform/Linux/Toolkit/DesktopNotice.h
+        Platform/Linux/Toolkit/DisplayChoice.h
         Platform/Linux/Toolkit/FolderDialog.h
         Platform/Linux/Toolkit/FolderPortal.h
         Platform/Linux/Toolkit/IconPainting.h

@@ -1,39 +1,14 @@
 #include "Platform/Linux/Toolkit/DisplayChoice.h"
 
+#include <QByteArray>
 #include <QtGlobal>
-
-#include <xcb/xcb.h>
 
 namespace tocca::platform::linux {
 
-namespace {
-
-constexpr const char* kPlatform = "QT_QPA_PLATFORM"; // the toolkit's own
-
-bool answersX()
+void preferXServer()
 {
-    if (!qEnvironmentVariableIsSet("DISPLAY")) {
-        return false;
-    }
-    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return answers;
-}
-
-} // namespace
-
-void chooseDisplay()
-{
-    if (qEnvironmentVariableIsSet(kPlatform)) {
-        return;
-    }
-    if (answersX()) {
-        qputenv(kPlatform, "xcb");
-    } else if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
-        qputenv(kPlatform, "wayland;offscreen");
-    } else {
-        qputenv(kPlatform, "offscreen");
+    if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("xcb;wayland"));
     }
 }
 

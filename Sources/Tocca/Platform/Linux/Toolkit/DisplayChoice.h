@@ -2,10 +2,9 @@
 
 namespace tocca::platform::linux {
 
-/// Tells the toolkit where to put its windows, unless the person has told it already: on the X server where one answers, since on
-/// Wayland no program places its own overlays; else on Wayland; and without a display nowhere, so that the program runs all the same.
-///
-/// Threads: main. Order: before the application object.
-void chooseDisplay();
+/// Has the toolkit's windows on the X server where there is one, XWayland included: a Wayland compositor lets nobody place a popover
+/// or an overlay.
+/// Threads: main. Order: before the application object. A person's own choice of the toolkit's platform stands.
+void preferXServer();
 
 } // namespace tocca::platform::linux

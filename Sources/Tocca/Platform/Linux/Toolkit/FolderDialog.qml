@@ -21,7 +21,7 @@ Window {
     title: qsTr("Choose a Folder")
     flags: Qt.Dialog
     color: palette.window
-    palette.highlightedText: palette.text
+    palette.highlightedText: "#1c2026"
 
     Component.onCompleted: dialog.open()
     onClosing: root.cancelled()
