@@ -11,12 +11,12 @@ Item {
     property string trailingSymbol
     property color color: Theme.textPrimary
     property int padding: 10
+    readonly property int beside: (symbol === "" ? 0 : Theme.symbolSize + 6) + (trailingSymbol === "" ? 0 : Theme.symbolSize + 6)
 
-    implicitWidth: row.implicitWidth + 2 * padding
+    implicitWidth: Math.ceil(label.implicitWidth) + beside + 2 * padding
     implicitHeight: Theme.controlHeight
 
     Row {
-        id: row
         anchors.centerIn: parent
         spacing: 6
 
@@ -29,8 +29,9 @@ Item {
         }
 
         Label {
+            id: label
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, Math.max(0, root.width > 0 ? root.width - 2 * root.padding - 2 * (Theme.symbolSize + 6) : implicitWidth))
+            width: Math.max(0, Math.min(implicitWidth, root.width - 2 * root.padding - root.beside))
             color: root.color
             font.weight: Font.DemiBold
             text: root.text
