@@ -42,6 +42,7 @@ struct Studio {
         : screen(directory, suffix)
     {
         machine.host.mainMenu().install(app::mainMenuTable(), target);
+        machine.host.settle();
         setPacks(7);
         screen.show(kView, model, kUsual);
     }
@@ -54,7 +55,7 @@ struct Studio {
                  "Forty-five gram domes, close microphone, one take for every key, with the room kept as it "
                  "was and "
                  "nothing done about the neighbours"),
-            pack("Модель Ф 機械式", "Пружины и сталь"),
+            pack("Модель Ф", "Пружины и сталь"),
         };
         for (int i = 4; i <= count; ++i) {
             packs.push_back(

@@ -69,7 +69,7 @@ ConsoleSection {
                 objectName: "volumeReading"
                 id: reading
                 anchors.verticalCenter: parent.verticalCenter
-                width: 44
+                width: 56
                 color: Theme.textPrimary
                 font.weight: Font.ExtraBold
                 horizontalAlignment: Text.AlignRight

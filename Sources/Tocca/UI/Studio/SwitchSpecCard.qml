@@ -21,8 +21,8 @@ Card {
     Accessible.role: Accessible.Grouping
     borderColor: root.isSelected ? Theme.amberAccent : hover.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
     borderWidth: root.isSelected ? 1.5 : 1
-    implicitHeight: 148
-    padding: 14
+    implicitHeight: 132
+    padding: 12
     radius: 8
 
     HoverHandler {
@@ -103,8 +103,8 @@ Card {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: tile.bottom
-        anchors.topMargin: 10
-        lineHeight: 1.2
+        anchors.topMargin: 8
+        lineHeight: 1.15
         maximumLineCount: 2
         text: root.subtitle
         wrapMode: Text.WordWrap
