@@ -1,14 +1,20 @@
-#include "App/LaunchAtLogin.h"
-#include "App/SmartMuteManager.h"
+#include "App/AppDelegate.h"
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 #include "Platform/Linux/LinuxHost.h"
+#include "Platform/Linux/Toolkit/DisplayChoice.h"
+#include "Platform/Linux/Toolkit/QuickView.h"
+#include "Platform/Linux/Toolkit/RendererChoice.h"
 #include "Platform/Linux/Toolkit/TerminationSignals.h"
 #include "Player/Mixer.h"
 #include "Player/MixerAudioPlayers.h"
 #include "Support/ThreadRole.h"
+#include "UI/Quick/Interface.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(Tocca_UIPlugin)
 
 namespace {
 
@@ -23,24 +29,48 @@ struct Desktop {
     platform::Host host{system.with(players)};
 };
 
+ui::ViewFactory viewsOf(ui::Interface& interface)
+{
+    const auto view = [&interface](QQuickItem* (ui::Interface::*make)(QQuickItem&)) {
+        return std::make_unique<platform::linux::QuickView>(
+            [&interface, make](QQuickItem& parent) { return (interface.*make)(parent); });
+    };
+    return {.menuBar =
+                [&interface, view] {
+                    interface.prepareMenuBar();
+                    return view(&ui::Interface::makeMenuBarView);
+                },
+            .mainWindow = [view] { return view(&ui::Interface::makeMainWindowView); },
+            .notchHUD = [view] { return view(&ui::Interface::makeNotchHUDView); },
+            .underglow = [view] { return view(&ui::Interface::makeUnderglowView); }};
+}
+
 } // namespace
 
-int main(int argc, char** argv)
+int main(int /*argc*/, char** argv)
 {
     setThreadRole(ThreadRole::Main);
     platform::linux::LinuxStandardOutput::reserveDescriptors();
-    QCoreApplication application(argc, argv);
+    platform::linux::chooseDisplay();
+    int nameAlone = 1; // the program takes no options, not even the toolkit's
+    const QGuiApplication application(nameAlone, argv);
+    platform::linux::chooseRenderer();
     const platform::linux::TerminationSignals signals;
 
-    // The controllers live as long as the process, and so does what they stand on.
+    // What lives as long as the process: the controllers, what they stand on and what shows them.
     auto& desktop = *new Desktop;
     platform::setDefaultHost(desktop.host);
+    if (!desktop.system.application().isFirstInstance()) {
+        return 0;
+    }
+    auto& interface =
+        *new ui::Interface({.showMainWindow = [] { app::AppDelegate::shared()->showMainWindow(); },
+                            .terminate = [&] { desktop.host.application.terminate(); }});
+    ui::setDefaultViews(viewsOf(interface));
     desktop.output.start(desktop.mixer);
 
-    auto& monitor = keyboard::KeyboardMonitor::shared();
-    app::LaunchAtLogin::shared();
-    app::SmartMuteManager::shared();
-    const int status = QCoreApplication::exec();
-    monitor.stop();
+    auto& delegate = *new app::AppDelegate(desktop.host, app::AppDelegate::Collaborators::shared());
+    const int status = desktop.host.application.run(delegate);
+    keyboard::KeyboardMonitor::shared().stop();
     return status;
 }

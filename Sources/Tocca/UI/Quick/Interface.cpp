@@ -1,0 +1,44 @@
+#include "UI/Quick/Interface.h"
+
+#include "UI/Controllers.h"
+#include "UI/NotchHUD/NotchHUDViewModel.h"
+#include "UI/Quick/QmlView.h"
+#include "UI/Underglow/SpatialUnderglowViewModel.h"
+
+#include <utility>
+
+namespace tocca::ui {
+
+Interface::Interface(Commands commands)
+    : commands_(std::move(commands))
+{}
+
+void Interface::prepareMenuBar()
+{
+    menuBar_.emplace(Controllers::shared(), commands_.showMainWindow, commands_.terminate);
+}
+
+QQuickItem* Interface::makeMenuBarView(QQuickItem& parent)
+{
+    return makeQmlView(engine_, QStringLiteral("MenuBar/MenuBarView.qml"), menuBar_.value(), parent);
+}
+
+QQuickItem* Interface::makeMainWindowView(QQuickItem& parent)
+{
+    if (!mainWindow_) {
+        mainWindow_.emplace(Controllers::shared());
+    }
+    return makeQmlView(engine_, QStringLiteral("Studio/MainWindowView.qml"), *mainWindow_, parent);
+}
+
+QQuickItem* Interface::makeNotchHUDView(QQuickItem& parent)
+{
+    return ui::makeNotchHUDView(engine_, NotchAcousticHUDController::shared(), parent);
+}
+
+QQuickItem* Interface::makeUnderglowView(QQuickItem& parent)
+{
+    return ui::makeSpatialUnderglowView(engine_, SpatialUnderglowController::shared(), parent);
+}
+
+} // namespace tocca::ui
