@@ -105,6 +105,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Toolkit/FolderPortal.h
         Platform/Linux/Toolkit/IconPainting.h
         Platform/Linux/Toolkit/KeyMatch.h
+        Platform/Linux/Toolkit/Later.h
         Platform/Linux/Toolkit/LinuxApplication.h
         Platform/Linux/Toolkit/LinuxMainMenu.h
         Platform/Linux/Toolkit/LinuxOpenPanels.h

@@ -1,6 +1,6 @@
 #include "Platform/Linux/Toolkit/DBusMenu.h"
 
-#include <QMetaObject>
+#include "Platform/Linux/Toolkit/Later.h"
 
 #include <cstddef>
 #include <utility>
@@ -90,8 +90,7 @@ void DBusMenu::Event(int id, const QString& eventId, const QDBusVariant& /*data*
     const MenuNode& node = entries_[static_cast<std::size_t>(id)].node;
     if (node.isEnabled && node.choose) {
         // After the answer: what is chosen may end the program or this menu.
-        QMetaObject::invokeMethod(
-            this, [choose = node.choose] { choose(); }, Qt::QueuedConnection);
+        later(*this, [choose = node.choose] { choose(); });
     }
 }
 

@@ -1,10 +1,10 @@
 #include "Platform/Linux/Toolkit/FolderDialog.h"
 
+#include "Platform/Linux/Toolkit/Later.h"
 #include "Platform/Linux/Toolkit/WindowActivation.h"
 #include "Platform/Linux/Toolkit/XDesktop.h"
 
 #include <QDir>
-#include <QMetaObject>
 #include <QQmlComponent>
 #include <QQuickWindow>
 
@@ -63,8 +63,7 @@ void FolderDialog::finish(const std::optional<std::filesystem::path>& folder)
     }
     window_->hide();
     // Not from inside the dialog's own call.
-    QMetaObject::invokeMethod(
-        this, [completion = std::move(completion), folder] { completion(folder); }, Qt::QueuedConnection);
+    later(*this, [completion = std::move(completion), folder] { completion(folder); });
 }
 
 } // namespace tocca::platform::linux

@@ -1,10 +1,11 @@
 #include "Platform/Linux/Toolkit/FolderPortal.h"
 
+#include "Platform/Linux/Toolkit/Later.h"
+
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QMetaObject>
 #include <QStringList>
 #include <QUrl>
 
@@ -28,8 +29,7 @@ FolderPortal::FolderPortal(QDBusConnection bus, Observers observers)
 void FolderPortal::ask(const QString& prompt, const QString& parent)
 {
     if (!bus_.isConnected()) {
-        QMetaObject::invokeMethod(
-            this, [this] { observers_.unavailable(); }, Qt::QueuedConnection);
+        later(*this, [this] { observers_.unavailable(); });
         return;
     }
     // The answer may come before the reply that names it, so its name is made up here.

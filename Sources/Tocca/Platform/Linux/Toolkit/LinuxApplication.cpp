@@ -2,11 +2,11 @@
 
 #include "Platform/Linux/Toolkit/ContentWindow.h"
 #include "Platform/Linux/Toolkit/DesktopNotice.h"
+#include "Platform/Linux/Toolkit/Later.h"
 #include "Platform/Linux/Toolkit/WindowActivation.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -36,7 +36,7 @@ int LinuxApplication::run(ApplicationDelegate& delegate)
     QGuiApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
     delegate_ = &delegate;
     QObject context; // what is still due when the loop ends does not happen
-    QTimer::singleShot(0, &context, [this, &delegate] {
+    later(context, [this, &delegate] {
         delegate.applicationDidFinishLaunching();
         if (std::exchange(hasWishToReopen_, false)) {
             reopen();

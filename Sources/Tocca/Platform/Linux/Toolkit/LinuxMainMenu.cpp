@@ -44,7 +44,8 @@ bool LinuxMainMenu::performKey(const QKeyEvent& event)
     for (const Menu& menu : menus_) {
         for (const MenuItem& item : menu.items) {
             if (matches(item.keyEquivalent, event)) {
-                const MenuItem chosen = item; // the table may change meanwhile
+                // The table may change meanwhile. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+                const MenuItem chosen = item;
                 perform(chosen);
                 return true;
             }
