@@ -29,7 +29,8 @@ list(APPEND TOCCA_UI_QML
     Controls/TitleAndLine.qml
     Controls/Toggle.qml
     Controls/ToggleRow.qml
-    Controls/ToolTip.qml)
+    Controls/ToolTip.qml
+    Controls/ToolTipBubble.qml)
 list(APPEND TOCCA_UI_SOURCES
     Controls/SwitchStemShape.cpp
     Controls/ToccaBrandLogoView.cpp)

@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
@@ -14,6 +13,8 @@ Item {
     signal chosen(int index)
 
     function open(): void {
+        // Made from its file: this version of the engine makes no bound component in a loader.
+        loader.setSource("PopupMenuSheet.qml", { target: root.target, options: root.options, currentIndex: root.currentIndex });
         loader.active = true;
     }
 
@@ -35,12 +36,10 @@ Item {
         anchors.fill: parent
         z: 900
         active: false
-        sourceComponent: PopupMenuSheet {
-            currentIndex: root.currentIndex
-            options: root.options
-            target: root.target
-            onChosen: index => root.take(index)
-            onRefused: root.close()
+        onLoaded: {
+            const sheet = item as PopupMenuSheet;
+            sheet.chosen.connect(root.take);
+            sheet.refused.connect(root.close);
         }
     }
 }

@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
@@ -25,28 +24,13 @@ Item {
         z: 1000
         active: root.shown && root.text !== "" && !rest.running
         onLoaded: {
+            (item as ToolTipBubble).text = root.text;
             const at = root.target.mapToItem(bubble.parent, 0, root.target.height + bubble.gap);
             const fitsBelow = at.y + bubble.height + bubble.gap <= bubble.parent.height;
             const left = at.x + (root.target.width - bubble.width) / 2;
             bubble.x = Math.round(Math.max(bubble.gap, Math.min(left, bubble.parent.width - bubble.width - bubble.gap)));
             bubble.y = Math.round(fitsBelow ? at.y : at.y - root.target.height - 2 * bubble.gap - bubble.height);
         }
-        sourceComponent: Rectangle {
-            implicitWidth: words.width + 16
-            implicitHeight: words.implicitHeight + 10
-            color: Theme.textPrimary
-            radius: 6
-
-            Label {
-                id: words
-                anchors.centerIn: parent
-                width: Math.min(implicitWidth, 240)
-                color: Theme.panelBg
-                elide: Text.ElideNone
-                size: Theme.captionSize
-                text: root.text
-                wrapMode: Text.Wrap
-            }
-        }
+        source: "ToolTipBubble.qml"
     }
 }

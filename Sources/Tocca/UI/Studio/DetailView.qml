@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// The page of the selected tab. A page is made when it is first shown, and stays.
+/// The page of the selected tab.
 Item {
     id: root
 
@@ -13,62 +13,52 @@ Item {
 
     clip: true
 
-    component Page: Loader {
-        required property int tab
-
+    DetailPage {
         anchors.fill: parent
-        active: false
-        visible: root.model.selectedTab === tab
-        onVisibleChanged: if (visible) active = true
-        Component.onCompleted: if (visible) active = true
+        file: "ShowroomView.qml"
+        headerInset: root.headerInset
+        model: root.model.showroom
+        visible: root.model.selectedTab === 0
     }
 
-    Page {
-        tab: 0
-        sourceComponent: ShowroomView {
-            headerInset: root.headerInset
-            model: root.model.showroom
-        }
+    DetailPage {
+        anchors.fill: parent
+        file: "AcousticsView.qml"
+        headerInset: root.headerInset
+        model: root.model.acoustics
+        visible: root.model.selectedTab === 1
     }
 
-    Page {
-        tab: 1
-        sourceComponent: AcousticsView {
-            headerInset: root.headerInset
-            model: root.model.acoustics
-        }
+    DetailPage {
+        anchors.fill: parent
+        file: "StageView.qml"
+        headerInset: root.headerInset
+        model: root.model.stage
+        visible: root.model.selectedTab === 2
     }
 
-    Page {
-        tab: 2
-        sourceComponent: StageView {
-            headerInset: root.headerInset
-            model: root.model.stage
-        }
+    DetailPage {
+        anchors.fill: parent
+        file: "PrivacyView.qml"
+        headerInset: root.headerInset
+        model: root.model.privacy
+        visible: root.model.selectedTab === 3
     }
 
-    Page {
-        tab: 3
-        sourceComponent: PrivacyView {
-            headerInset: root.headerInset
-            model: root.model.privacy
-        }
+    DetailPage {
+        anchors.fill: parent
+        file: "TelemetryView.qml"
+        headerInset: root.headerInset
+        model: root.model.telemetry
+        visible: root.model.selectedTab === 4
     }
 
-    Page {
-        tab: 4
-        sourceComponent: TelemetryView {
-            headerInset: root.headerInset
-            model: root.model.telemetry
-        }
-    }
-
-    Page {
-        tab: 5
-        sourceComponent: SettingsView {
-            headerInset: root.headerInset
-            model: root.model.settings
-        }
+    DetailPage {
+        anchors.fill: parent
+        file: "SettingsView.qml"
+        headerInset: root.headerInset
+        model: root.model.settings
+        visible: root.model.selectedTab === 5
     }
 
     SidebarButton {

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
@@ -33,7 +34,7 @@ Item {
         to: root.isActive ? 1 : 0
     }
 
-    // A soft shadow: layers that add up towards the cap.
+    // A soft shadow: layers that add up towards the cap, which hides what is under it.
     Repeater {
         model: 4
 
@@ -50,24 +51,17 @@ Item {
         }
     }
 
-    // What lies under the translucent cap is the board, not the shadow.
-    Rectangle {
-        anchors.fill: parent
-        radius: 3.5 * root.factor
-        color: Theme.chassisBg
-    }
-
     Rectangle {
         anchors.fill: parent
         radius: 3.5 * root.factor
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: root.isActive ? Theme.amberAccent : Qt.alpha(Theme.textSecondary, 0.25)
+                color: root.isActive ? Theme.amberAccent : Qt.tint(Theme.chassisBg, Qt.alpha(Theme.textSecondary, 0.25))
             }
             GradientStop {
                 position: 1
-                color: Qt.alpha(root.isActive ? Theme.amberAccent : Theme.textSecondary, root.isActive ? 0.8 : 0.18)
+                color: Qt.tint(Theme.chassisBg, root.isActive ? Qt.alpha(Theme.amberAccent, 0.8) : Qt.alpha(Theme.textSecondary, 0.18))
             }
         }
     }

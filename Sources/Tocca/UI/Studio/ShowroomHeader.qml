@@ -24,7 +24,7 @@ Item {
 
         readonly property real fixedWidth: hud.width + filter.width + 2 * spacing
 
-        anchors.right: root.isNarrow ? undefined : parent.right
+        x: root.isNarrow ? 0 : root.width - width
         y: root.isNarrow ? title.height + 14 : Math.round((title.height - height) / 2)
         height: Theme.fieldHeight
         spacing: 8

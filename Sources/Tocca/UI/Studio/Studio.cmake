@@ -2,6 +2,7 @@ list(APPEND TOCCA_UI_QML
     Studio/AcousticsView.qml
     Studio/AuditionButton.qml
     Studio/ConsoleSection.qml
+    Studio/DetailPage.qml
     Studio/DetailView.qml
     Studio/FilterMenu.qml
     Studio/MainWindowView.qml

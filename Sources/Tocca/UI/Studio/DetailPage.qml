@@ -1,0 +1,25 @@
+import QtQuick
+
+/// A page that is made when it is first shown, and stays.
+Loader {
+    id: root
+
+    required property string file
+    required property QtObject model
+    required property int headerInset
+
+    function load(): void {
+        if (root.visible && root.status === Loader.Null)
+            root.setSource(root.file, { model: root.model });
+    }
+
+    onVisibleChanged: root.load()
+    Component.onCompleted: root.load()
+
+    Binding {
+        property: "headerInset"
+        target: root.item
+        value: root.headerInset
+        when: root.status === Loader.Ready
+    }
+}
