@@ -1,3 +1,4 @@
+#include "UI/Studio/KeyEquivalentText.h"
 #include "UI/Studio/StudioText.h"
 #include "UI/Studio/VisualKey.h"
 
@@ -49,6 +50,16 @@ TEST(StudioText, EncodesPathsForTheDesktop)
 {
     EXPECT_EQ(studioText::fileUrl("/home/ann/Sound_Packs-1.0~"), "file:///home/ann/Sound_Packs-1.0~");
     EXPECT_EQ(studioText::fileUrl("/a b/50%#?&\"ü"), "file:///a%20b/50%25%23%3F%26%22%C3%BC");
+}
+
+TEST(StudioText, NamesTheKeysOfAMenuItem)
+{
+    EXPECT_EQ(keyEquivalentText({}), "");
+    EXPECT_EQ(keyEquivalentText({.key = "q"}), "Ctrl+Q");
+    EXPECT_EQ(keyEquivalentText({.key = "Z"}), "Ctrl+Shift+Z");
+    EXPECT_EQ(keyEquivalentText({.key = "h", .option = true}), "Ctrl+Alt+H");
+    EXPECT_EQ(keyEquivalentText({.key = "n", .control = true}), "Ctrl+Super+N");
+    EXPECT_EQ(keyEquivalentText({.key = "[", .command = false}), "[");
 }
 
 TEST(MiniKeyboard, HasEveryCapOnce)

@@ -20,11 +20,11 @@ class AcousticsViewModel : public QObject {
     Q_PROPERTY(QStringList presetLabels READ presetLabels CONSTANT FINAL)
     Q_PROPERTY(int activePreset READ activePreset NOTIFY volumeChanged FINAL)
     Q_PROPERTY(QString lubeReading READ lubeReading NOTIFY lubeLevelChanged FINAL)
-    Q_PROPERTY(QStringList deskSurfaces READ deskSurfaces CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> deskSurfaces READ deskSurfaces CONSTANT FINAL)
     Q_PROPERTY(QString deskSurfaceDescription READ deskSurfaceDescription NOTIFY deskSurfaceChanged FINAL)
-    Q_PROPERTY(QStringList mouseProfiles READ mouseProfiles CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> mouseProfiles READ mouseProfiles CONSTANT FINAL)
     Q_PROPERTY(QString mouseProfileDescription READ mouseProfileDescription NOTIFY mouseProfileChanged FINAL)
-    Q_PROPERTY(QStringList underglowThemes READ underglowThemes CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> underglowThemes READ underglowThemes CONSTANT FINAL)
 
     audio::AudioEngine& engine_;
     NotchAcousticHUDController& notchHUD_;

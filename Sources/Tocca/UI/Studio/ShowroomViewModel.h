@@ -19,7 +19,7 @@ class ShowroomViewModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the window")
     Q_PROPERTY(tocca::ui::ShowroomCardsViewModel* cards READ cards CONSTANT FINAL)
-    Q_PROPERTY(QStringList filterOptions READ filterOptions CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> filterOptions READ filterOptions CONSTANT FINAL)
     Q_PROPERTY(int filterIndex READ filterIndex NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString searchText READ searchText NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY pageChanged FINAL)

@@ -14,6 +14,7 @@ Card {
     Accessible.name: root.title + ": " + root.value + " " + root.unit
     Accessible.role: Accessible.StaticText
     implicitHeight: 100
+    padding: 14
     radius: 8
 
     CapitalLabel {
@@ -24,7 +25,7 @@ Card {
     Label {
         id: figure
         anchors.bottom: parent.bottom
-        width: Math.min(implicitWidth, parent.width)
+        width: Math.min(implicitWidth, parent.width - label.implicitWidth - label.anchors.leftMargin)
         color: root.ink
         elide: Text.ElideNone
         font.letterSpacing: -0.5
@@ -36,14 +37,13 @@ Card {
     }
 
     Label {
+        id: label
         anchors.baseline: figure.baseline
         anchors.left: figure.right
-        anchors.leftMargin: 6
-        anchors.right: parent.right
+        anchors.leftMargin: 5
         color: Theme.textMuted
-        font.letterSpacing: 0.4
         font.weight: Font.Medium
-        size: 10
+        size: 9
         text: root.unit
     }
 }
