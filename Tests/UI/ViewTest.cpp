@@ -52,6 +52,8 @@ QQuickItem* ViewTest::show(const QString& file, QObject& model, QSize size)
 {
     window.resize(size);
     window.contentItem()->setSize(size);
+    auto* theme = engine.singletonInstance<QObject*>(qmlTypeId("Tocca.UI", 1, 0, "Theme"));
+    theme->setProperty("reducesMotion", true); // what is looked at is where things end
     QQuickItem* view = makeQmlView(engine, file, model, *window.contentItem());
     window.show();
     window.requestActivate();

@@ -32,13 +32,18 @@ Rectangle {
             bottomPadding: 14
 
             component Rule: Divider { width: column.width }
-            component Slot: Loader { x: column.margin; width: column.width - 2 * column.margin; visible: active }
 
             HeaderSection { x: column.margin; width: column.width - 2 * x; model: root.model }
-            Slot { active: root.model.isSmartMuted; sourceComponent: SmartMutedCard { model: root.model } }
+            Repeater {
+                model: root.model.isSmartMuted ? 1 : 0
+                delegate: SmartMutedCard { x: column.margin; width: column.width - 2 * x; model: root.model }
+            }
             Rule {}
             QuickTestBar { x: column.margin; width: column.width - 2 * x; model: root.model }
-            Slot { active: !root.model.hasAccessibilityPermission; sourceComponent: PermissionCard { model: root.model } }
+            Repeater {
+                model: root.model.hasAccessibilityPermission ? 0 : 1
+                delegate: PermissionCard { x: column.margin; width: column.width - 2 * x; model: root.model }
+            }
             Rule {}
             SoundPackSection { x: column.margin; width: column.width - 2 * x; model: root.model }
             Rule {}

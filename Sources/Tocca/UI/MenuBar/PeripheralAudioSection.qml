@@ -20,10 +20,9 @@ Section {
         onToggled: root.model.toggleMouseAudio()
     }
 
-    Loader {
-        active: root.model.isMouseAudioEnabled
-        visible: active
-        sourceComponent: Column {
+    Repeater {
+        model: root.model.isMouseAudioEnabled ? 1 : 0
+        delegate: Column {
             width: root.width
             spacing: 6
 

@@ -29,10 +29,9 @@ Section {
         }
     }
 
-    Loader {
-        active: root.model.hasCommunityLibrary
-        visible: active
-        sourceComponent: CommunityLibrary {
+    Repeater {
+        model: root.model.hasCommunityLibrary ? 1 : 0
+        delegate: CommunityLibrary {
             width: root.width
             model: root.model
         }

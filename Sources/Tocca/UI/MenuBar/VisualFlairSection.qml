@@ -30,10 +30,9 @@ Section {
         onToggled: root.model.toggleUnderglow()
     }
 
-    Loader {
-        active: root.model.isUnderglowEnabled
-        visible: active
-        sourceComponent: PickerRow {
+    Repeater {
+        model: root.model.isUnderglowEnabled ? 1 : 0
+        delegate: PickerRow {
             width: root.width
             currentIndex: root.model.underglowTheme
             options: root.model.underglowThemes
