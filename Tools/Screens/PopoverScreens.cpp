@@ -1,6 +1,7 @@
 #include "PopoverScreens.h"
 
 #include "Screen.h"
+#include "UI/ControllersOnMemory.h"
 #include "UI/MenuBar/MenuBarViewModel.h"
 
 #include <array>
@@ -41,14 +42,15 @@ void addNinePacks(ControllersOnMemory& machine)
 void takePopover(const QString& directory, const QString& suffix, const QString& name,
                  const std::function<void(ControllersOnMemory&)>& prepare)
 {
-    Screen screen(directory, suffix);
-    prepare(screen.machine);
+    ControllersOnMemory machine;
+    prepare(machine);
     MenuBarViewModel model(
-        screen.machine.all, [] {}, [] {});
+        machine.all, [] {}, [] {});
+    Screen screen(directory, suffix);
     screen.show(QStringLiteral("MenuBar/MenuBarView.qml"), model, QSize(360, 560));
-    screen.machine.host.settle();
-    screen.machine.engine.lastActiveKeyPan.set(-0.4F);
-    screen.machine.engine.keyVisualizerTrigger.set(1);
+    machine.host.settle();
+    machine.engine.lastActiveKeyPan.set(-0.4F);
+    machine.engine.keyVisualizerTrigger.set(1);
     screen.take(name + QStringLiteral("-top"));
     screen.press(Qt::Key_PageDown);
     screen.take(name + QStringLiteral("-middle"));
@@ -61,11 +63,12 @@ void takePopover(const QString& directory, const QString& suffix, const QString&
 /// The keyboard's focus on each kind of control, and an open menu.
 void takeFocus(const QString& directory, const QString& suffix)
 {
-    Screen screen(directory, suffix);
+    ControllersOnMemory machine;
     MenuBarViewModel model(
-        screen.machine.all, [] {}, [] {});
+        machine.all, [] {}, [] {});
+    Screen screen(directory, suffix);
     screen.show(QStringLiteral("MenuBar/MenuBarView.qml"), model, QSize(360, 560));
-    screen.machine.host.settle();
+    machine.host.settle();
     for (int i = 0; i < 3; ++i) {
         screen.press(Qt::Key_Tab);
     }

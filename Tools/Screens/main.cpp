@@ -1,3 +1,4 @@
+#include "PopoverScreens.h"
 #include "StudioScreens.h"
 
 #include <QDir>
@@ -24,6 +25,8 @@ int main(int argc, char** argv)
     if (!QDir().mkpath(directory)) {
         qFatal("cannot make %s", qPrintable(directory));
     }
-    tocca::ui::takeStudioScreens(directory, QStringLiteral("@%1x").arg(QLatin1String(argv[2])));
+    const QString suffix = QStringLiteral("@%1x").arg(QLatin1String(argv[2]));
+    tocca::ui::takePopoverScreens(directory, suffix);
+    tocca::ui::takeStudioScreens(directory, suffix);
     return 0;
 }
