@@ -2,6 +2,7 @@
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 #include "Platform/Linux/LinuxHost.h"
+#include "Platform/Linux/Toolkit/ApplicationIcon.h"
 #include "Platform/Linux/Toolkit/DisplayChoice.h"
 #include "Platform/Linux/Toolkit/QuickView.h"
 #include "Platform/Linux/Toolkit/RendererChoice.h"
@@ -51,11 +52,14 @@ int main(int /*argc*/, char** argv)
 {
     setThreadRole(ThreadRole::Main);
     platform::linux::LinuxStandardOutput::reserveDescriptors();
-    platform::linux::chooseDisplay();
+    platform::linux::TerminationSignals signals; // before the toolkit starts a thread that would take them
+    platform::linux::preferXServer();
     int nameAlone = 1; // the program takes no options, not even the toolkit's
     const QGuiApplication application(nameAlone, argv);
+    signals.attach();
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tocca.Tocca"));
+    QGuiApplication::setWindowIcon(platform::linux::applicationIcon());
     platform::linux::chooseRenderer();
-    const platform::linux::TerminationSignals signals;
 
     // What lives as long as the process: the controllers, what they stand on and what shows them.
     auto& desktop = *new Desktop;
