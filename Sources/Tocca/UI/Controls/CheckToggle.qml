@@ -20,26 +20,11 @@ Pressable {
     implicitHeight: Math.max(Theme.rowHeight, words.implicitHeight + 4)
     onActivated: root.toggled()
 
-    Rectangle {
+    CheckDrawing {
         id: box
         anchors.verticalCenter: parent.verticalCenter
-        width: 18
-        height: 18
-        radius: 5
-        color: root.checked ? Theme.amberAccent : Theme.panelBg
-        border.color: root.checked || root.hovered ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.35))
-
-        Behavior on color {
-            ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
-        }
-
-        Symbol {
-            anchors.centerIn: parent
-            color: Theme.panelBg
-            name: "checkmark"
-            size: 12
-            visible: root.checked
-        }
+        checked: root.checked
+        hovered: root.hovered
     }
 
     TitleAndLine {

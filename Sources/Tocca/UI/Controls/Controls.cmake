@@ -4,6 +4,7 @@ list(APPEND TOCCA_UI_QML
     Controls/ButtonGround.qml
     Controls/CapitalLabel.qml
     Controls/Card.qml
+    Controls/CheckDrawing.qml
     Controls/CheckToggle.qml
     Controls/ClearButton.qml
     Controls/Divider.qml
@@ -23,7 +24,7 @@ list(APPEND TOCCA_UI_QML
     Controls/Segment.qml
     Controls/SegmentedPicker.qml
     Controls/Slider.qml
-    Controls/SliderDrawing.qml
+    Controls/SliderTrack.qml
     Controls/SwitchDrawing.qml
     Controls/TextEntry.qml
     Controls/TitleAndLine.qml

@@ -46,24 +46,11 @@ Item {
             root.askSteps([-100, -10, 0, 10, 100][pages]);
     }
 
-    SliderDrawing {
+    SliderTrack {
         anchors.fill: parent
-        active: area.containsMouse || area.pressed
-        position: root.position
-    }
-
-    MouseArea {
-        id: area
-        anchors.fill: parent
-        hoverEnabled: true
-        preventStealing: true
-        function askAt(x: real): void {
-            const share = (x - Theme.knobSize / 2) / (root.width - Theme.knobSize);
-            root.ask(root.minimumValue + share * (root.maximumValue - root.minimumValue));
-        }
-        onPressed: mouse => askAt(mouse.x)
-        onPositionChanged: mouse => { if (pressed) askAt(mouse.x); }
-        onWheel: wheel => root.askSteps(wheel.angleDelta.y / 120)
+        filled: root.position
+        onPointed: share => root.ask(root.minimumValue + share * (root.maximumValue - root.minimumValue))
+        onStepped: steps => root.askSteps(steps)
     }
 
     FocusRing {}

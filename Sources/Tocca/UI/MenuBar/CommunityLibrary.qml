@@ -26,6 +26,7 @@ Column {
         Row {
             id: pager
             anchors.right: parent.right
+            anchors.rightMargin: -8
             anchors.verticalCenter: parent.verticalCenter
 
             PlainButton {

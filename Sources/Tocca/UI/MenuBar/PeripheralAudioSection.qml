@@ -31,6 +31,7 @@ Section {
                 currentIndex: root.model.mouseProfile
                 options: root.model.mouseProfiles
                 pickerName: "mouseProfile"
+                pickerWidth: 214
                 title: "Microswitch"
                 onChosen: index => root.model.chooseMouseProfile(index)
             }

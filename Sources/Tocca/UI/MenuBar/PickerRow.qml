@@ -7,6 +7,7 @@ Item {
     id: root
 
     property alias pickerName: picker.objectName
+    property real pickerWidth: 168
     required property string title
     required property list<string> options
     required property int currentIndex
@@ -27,7 +28,7 @@ Item {
     MenuPicker {
         id: picker
         anchors.right: parent.right
-        width: 168
+        width: root.pickerWidth
         currentIndex: root.currentIndex
         options: root.options
         title: root.title

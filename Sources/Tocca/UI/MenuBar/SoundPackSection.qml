@@ -11,6 +11,7 @@ Section {
     title: "STUDIO SOUND PACKS"
     accessory: PlainButton {
         objectName: "import"
+        x: 8 // its text ends where the rows end
         implicitHeight: 28
         color: Theme.amberAccent
         symbol: "plus.circle"

@@ -2,14 +2,21 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// How a slider looks: a track filled up to a knob.
-Item {
+/// The track of a slider, filled up to its knob, and what the pointer does on it.
+MouseArea {
     id: root
 
-    required property real position // 0…1
-    property bool active
-
+    required property real filled // 0…1
     readonly property int travel: width - Theme.knobSize
+
+    signal pointed(real share) // beyond 0…1 outside the track
+    signal stepped(real steps)
+
+    hoverEnabled: true
+    preventStealing: true
+    onPressed: mouse => root.pointed((mouse.x - Theme.knobSize / 2) / root.travel)
+    onPositionChanged: mouse => { if (pressed) root.pointed((mouse.x - Theme.knobSize / 2) / root.travel); }
+    onWheel: wheel => root.stepped(wheel.angleDelta.y / 120)
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
@@ -38,11 +45,11 @@ Item {
     Rectangle {
         id: knob
         anchors.verticalCenter: parent.verticalCenter
-        x: Math.round(root.position * root.travel)
+        x: Math.round(root.filled * root.travel)
         width: Theme.knobSize
         height: width
         radius: width / 2
         color: Theme.panelBg
-        border.color: root.active ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.3))
+        border.color: root.containsMouse || root.pressed ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.3))
     }
 }
