@@ -140,6 +140,7 @@ TEST_F(MenuBarViewTest, PickersChooseByMenuAndArrowKeys)
 TEST_F(MenuBarViewTest, SectionsComeAndGoWithTheirReason)
 {
     open();
+    machine.host.settle();
     EXPECT_FALSE(has("smartMutedCard"));
     EXPECT_FALSE(has("permissionCard"));
     EXPECT_FALSE(has("communityLibrary"));

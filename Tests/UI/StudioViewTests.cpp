@@ -58,7 +58,8 @@ protected:
         std::vector<audio::SoundPackInfo> packs;
         for (int i = 1; i <= count; ++i) {
             const std::string name = "Pack " + std::to_string(i);
-            packs.push_back({.id = "custom_" + name, .name = name, .folderURL = "/packs/" + name});
+            packs.push_back(
+                {.id = "custom_" + name, .name = name, .description = "", .folderURL = "/packs/" + name});
         }
         machine.loader.availableCustomPacks.set(packs);
     }

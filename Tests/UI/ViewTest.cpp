@@ -4,9 +4,11 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QQmlProperty>
+#include <QQmlComponent>
 #include <QTest>
 #include <QWheelEvent>
+
+#include <memory>
 
 namespace tocca::ui {
 namespace {
@@ -36,6 +38,15 @@ QString nameOf(QQuickItem& item)
     return interface == nullptr ? QString() : interface->text(QAccessible::Name);
 }
 
+void showOnlyWhereThingsEnd(QQmlEngine& engine)
+{
+    QQmlComponent still(&engine);
+    still.setData(
+        "import QtQml\nimport Tocca.UI\nQtObject { Component.onCompleted: Theme.reducesMotion = true }", {});
+    const std::unique_ptr<QObject> done(still.create());
+    ASSERT_NE(done, nullptr) << qPrintable(still.errorString());
+}
+
 bool isInSight(const QQuickItem& item)
 {
     return item.isVisible() && item.width() > 0 && item.height() > 0;
@@ -48,13 +59,18 @@ ViewTest::ViewTest()
     window.resize(360, 560);
 }
 
+void ViewTest::TearDown()
+{
+    qDeleteAll(views_);
+}
+
 QQuickItem* ViewTest::show(const QString& file, QObject& model, QSize size)
 {
     window.resize(size);
     window.contentItem()->setSize(size);
-    auto* theme = engine.singletonInstance<QObject*>(qmlTypeId("Tocca.UI", 1, 0, "Theme"));
-    theme->setProperty("reducesMotion", true); // what is looked at is where things end
     QQuickItem* view = makeQmlView(engine, file, model, *window.contentItem());
+    views_.append(view);
+    showOnlyWhereThingsEnd(engine);
     window.show();
     window.requestActivate();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

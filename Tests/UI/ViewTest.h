@@ -21,6 +21,9 @@ public:
 protected:
     ViewTest();
 
+    /// Ends the views before the models that the test owns.
+    void TearDown() override;
+
     /// Shows the view of a file of the module, with its model, in the window.
     QQuickItem* show(const QString& file, QObject& model, QSize size);
 
@@ -62,6 +65,9 @@ protected:
 
     QQmlEngine engine;
     QQuickWindow window;
+
+private:
+    QList<QQuickItem*> views_;
 };
 
 } // namespace tocca::ui

@@ -31,8 +31,8 @@ void addNinePacks(ControllersOnMemory& machine)
         R"({"name":"Topre 45g"})",
         R"({"name":"Zealios V2"})",
     };
-    for (const char* manifest : kPacks) {
-        addPack(machine, std::to_string(&manifest - kPacks.data()), manifest);
+    for (std::size_t i = 0; i < kPacks.size(); ++i) {
+        addPack(machine, std::to_string(i), kPacks.at(i));
     }
     machine.loader.refreshCustomPacks();
     machine.host.settle();
@@ -78,8 +78,8 @@ void takeFocus(const QString& directory, const QString& suffix)
         screen.press(Qt::Key_Tab);
     }
     screen.take(QStringLiteral("popover-focus-control"));
-    screen.press(Qt::Key_Tab);
     screen.press(Qt::Key_Return);
+    screen.press(Qt::Key_Down);
     screen.take(QStringLiteral("popover-menu"));
 }
 
@@ -93,8 +93,8 @@ void takePopoverScreens(const QString& directory, const QString& suffix)
     });
     takePopover(directory, suffix, QStringLiteral("popover-full"), [](ControllersOnMemory& machine) {
         machine.host.trustQuery().isGranted = false;
-        machine.smartMute.isSmartMuted.set(true);
-        machine.smartMute.smartMuteReason.set("Microphone in use");
+        machine.host.audioDevices().startCapture("headset");
+        machine.host.advance(2);
         machine.notchHUD.isEnabled.set(true);
         addNinePacks(machine);
     });
