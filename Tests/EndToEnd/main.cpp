@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -35,5 +36,6 @@ int main(int argc, char** argv)
         becomePrivate(command);
         return EXIT_FAILURE;
     }
+    const QCoreApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -57,9 +57,15 @@ double XTestKeyboard::releaseButton(std::uint8_t button)
     return send(XCB_BUTTON_RELEASE, button);
 }
 
-double XTestKeyboard::send(std::uint8_t type, std::uint8_t detail)
+double XTestKeyboard::movePointer(int x, int y)
 {
-    xcb_test_fake_input(connection_.get(), type, detail, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    return send(XCB_MOTION_NOTIFY, 0, x, y);
+}
+
+double XTestKeyboard::send(std::uint8_t type, std::uint8_t detail, int x, int y)
+{
+    xcb_test_fake_input(connection_.get(), type, detail, XCB_CURRENT_TIME, XCB_NONE,
+                        static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
     const double sentAt = now();
     xcb_flush(connection_.get());
     return sentAt;

@@ -23,8 +23,11 @@ public:
     double pressButton(std::uint8_t button);
     double releaseButton(std::uint8_t button);
 
+    /// Moves the pointer. Units: pixels of the screen.
+    double movePointer(int x, int y);
+
 private:
-    double send(std::uint8_t type, std::uint8_t detail);
+    double send(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
 
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> connection_;
 };

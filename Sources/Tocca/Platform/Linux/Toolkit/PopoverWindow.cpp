@@ -10,12 +10,20 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <chrono>
 
 namespace tocca::platform::linux {
 
 namespace {
 
 constexpr int kGap = 6; // between anchor and popover, in points
+constexpr std::chrono::milliseconds kButtonPoll{40};
+
+bool isButtonDown()
+{
+    auto desktop = XDesktop::requests();
+    return desktop && desktop->isButtonDown();
+}
 
 } // namespace
 
@@ -36,6 +44,13 @@ PopoverWindow::PopoverWindow(OwnWindows& family)
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     connect(this, &QWindow::activeChanged, this, [this] { focusMoved(); });
+    waitForRelease_.setInterval(kButtonPoll);
+    connect(&waitForRelease_, &QTimer::timeout, this, [this] {
+        if (!isButtonDown()) {
+            waitForRelease_.stop();
+            closeForFocusLoss();
+        }
+    });
 }
 
 void PopoverWindow::showAt(const QRect& anchor)
@@ -67,12 +82,26 @@ void PopoverWindow::focusMoved()
         hasHadFocus_ = true;
         return;
     }
-    if (!isVisible() || !hasHadFocus_ || isDraggedOver() || family_.hasDialog()) {
+    if (!isVisible() || !hasHadFocus_) {
         return;
     }
     sinceFocusWasLost_.start();
     pointerAtFocusLoss_ = QCursor::pos();
-    hide();
+    if (isButtonDown()) {
+        // Who takes a folder from another window to drop it here takes the focus with it: only the release tells.
+        waitForRelease_.start();
+    } else {
+        closeForFocusLoss();
+    }
+}
+
+void PopoverWindow::closeForFocusLoss()
+{
+    if (isVisible() && !isActive() && !isDraggedOver() && !family_.hasDialog()) {
+        hide();
+    } else {
+        sinceFocusWasLost_.invalidate();
+    }
 }
 
 bool PopoverWindow::handleKey(const QKeyEvent& event)

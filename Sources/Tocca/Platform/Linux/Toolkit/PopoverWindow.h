@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QPoint>
 #include <QRect>
+#include <QTimer>
 
 #include <optional>
 
@@ -24,12 +25,16 @@ public:
 private:
     void focusMoved();
 
+    /// Closes the window, unless the person has it again or has brought something that is about to be dropped on it.
+    void closeForFocusLoss();
+
     void closeRequested() override { hide(); }
 
     bool handleKey(const QKeyEvent& event) override;
     void dragEnded() override;
 
     OwnWindows& family_;
+    QTimer waitForRelease_;
     bool hasHadFocus_ = false;        // since it was shown
     QElapsedTimer sinceFocusWasLost_; // invalid unless that closed it
     QPoint pointerAtFocusLoss_;

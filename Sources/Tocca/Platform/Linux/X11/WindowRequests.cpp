@@ -84,6 +84,15 @@ std::vector<xcb_window_t> WindowRequests::ordinaryWindows(std::uint32_t ownId)
     return windows;
 }
 
+bool WindowRequests::isButtonDown()
+{
+    constexpr unsigned kMainButtons =
+        XCB_KEY_BUT_MASK_BUTTON_1 | XCB_KEY_BUT_MASK_BUTTON_2 | XCB_KEY_BUT_MASK_BUTTON_3;
+    const XReply<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(connection_, xcb_query_pointer(connection_, root_), nullptr));
+    return pointer && (pointer->mask & kMainButtons) != 0;
+}
+
 bool WindowRequests::isThere(xcb_window_t window)
 {
     return contains(words(root_, "_NET_CLIENT_LIST"), window);

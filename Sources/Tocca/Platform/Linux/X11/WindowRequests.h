@@ -40,6 +40,9 @@ public:
     /// The ordinary windows that are to be seen on the current desktop, lowest first, but for those of the process `ownId`.
     [[nodiscard]] std::vector<xcb_window_t> ordinaryWindows(std::uint32_t ownId);
 
+    /// Whether a button of the pointer is down, wherever it is.
+    [[nodiscard]] bool isButtonDown();
+
     /// Whether the window is still managed.
     [[nodiscard]] bool isThere(xcb_window_t window);
 

@@ -1,0 +1,89 @@
+#include "EndToEnd/InterfaceAtWork.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+namespace tocca::endtoend {
+
+using namespace std::chrono_literals;
+
+bool becomesTrue(const std::function<bool()>& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + kDeadline;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end) {
+            return false;
+        }
+        std::this_thread::sleep_for(5ms);
+    }
+    return true;
+}
+
+void InterfaceAtWork::SetUp()
+{
+    ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
+    ASSERT_TRUE(becomesTrue([this] { return window("Tocca Studio").has_value(); })) << program.output();
+}
+
+void InterfaceAtWork::click(const std::string& name, const std::string& role)
+{
+    const auto control = reader.find(name, role);
+    ASSERT_TRUE(control) << "\"" << name << "\" is nowhere to be seen";
+    clickAt(control->midX(), control->midY());
+}
+
+void InterfaceAtWork::clickAt(int x, int y, std::uint8_t button)
+{
+    hands.movePointer(x, y);
+    hands.pressButton(button);
+    hands.releaseButton(button);
+}
+
+void InterfaceAtWork::chord(const std::vector<std::uint16_t>& keys)
+{
+    std::for_each(keys.begin(), keys.end(), [this](auto key) { hands.press(key); });
+    std::for_each(keys.rbegin(), keys.rend(), [this](auto key) { hands.release(key); });
+}
+
+void InterfaceAtWork::listen()
+{
+    recorder = std::make_unique<testkit::MonitorRecorder>(300s, kDeadline);
+    ASSERT_TRUE(testkit::becomesAudible(hands, *recorder, kDeadline)) << program.output();
+}
+
+testkit::Hearing InterfaceAtWork::typeAndHear(std::span<const std::uint16_t> keys)
+{
+    return testkit::typeAndHear(hands, *recorder, keys, {}, random, kDeadline);
+}
+
+std::optional<testkit::VisibleWindow> InterfaceAtWork::window(const std::string& title)
+{
+    const auto windows = screen.windowsOf(program.id());
+    const auto match = std::find_if(windows.begin(), windows.end(),
+                                    [&](const auto& candidate) { return candidate.name == title; });
+    return match != windows.end() ? std::optional(*match) : std::nullopt;
+}
+
+void InterfaceAtWork::keepPicture(const std::string& name) const
+{
+    const std::filesystem::path folder = SCREENS_DIRECTORY;
+    std::filesystem::create_directories(folder);
+    const auto picture = screen.picture(0, 0, screen.width(), screen.height());
+    const auto raw = folder / (name + ".ppm");
+    {
+        std::ofstream file(raw, std::ios::binary);
+        file << "P6\n" << picture.width << ' ' << picture.height << "\n255\n";
+        for (const auto& pixel : picture.pixels) {
+            for (const int component : {pixel.red, pixel.green, pixel.blue}) {
+                file.put(static_cast<char>(component));
+            }
+        }
+    }
+    testkit::Process convert({"convert", raw.string(), (folder / (name + ".png")).string()});
+    EXPECT_EQ(convert.waitForExit(kDeadline), 0) << convert.output();
+    std::filesystem::remove(raw);
+}
+
+} // namespace tocca::endtoend

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "EndToEnd/ProgramAtWork.h"
+#include "TestKit/Process.h"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tocca::endtoend {
+
+/// A control as assistive programs see it. Units: pixels of the screen.
+struct Control {
+    std::string name;
+    std::string role;
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+    bool isShowing = false;
+    bool isChecked = false;
+    bool isFocused = false;
+    bool isEnabled = false;
+
+    [[nodiscard]] int midX() const noexcept { return x + width / 2; }
+
+    [[nodiscard]] int midY() const noexcept { return y + height / 2; }
+};
+
+/// Reads the session's windows as a screen reader does, which tells where each control is and whether blind people find it.
+///
+/// Makes the session's accessibility bus, so it comes before the program that is to be read.
+/// Threads: main, with a `QCoreApplication`. Errors: throws `std::runtime_error` without that bus.
+class ScreenReader {
+public:
+    ScreenReader();
+    ~ScreenReader();
+    ScreenReader(const ScreenReader&) = delete;
+    ScreenReader& operator=(const ScreenReader&) = delete;
+
+    /// Everything that the programs of the session show now.
+    [[nodiscard]] std::vector<Control> controls() const;
+
+    /// Waits until a control of that name is to be seen; none when there is none by the deadline. `role` may be empty.
+    [[nodiscard]] std::optional<Control> find(const std::string& name, const std::string& role = {},
+                                              std::chrono::milliseconds deadline = kDeadline) const;
+
+private:
+    class Bus;
+
+    testkit::Process launcher_;
+    std::unique_ptr<Bus> bus_;
+};
+
+} // namespace tocca::endtoend

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "TestKit/Process.h"
+#include "TestKit/XScreen.h"
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace tocca::endtoend {
+
+/// A panel that takes in status icons, at the bottom right of the screen.
+class Tray {
+public:
+    /// Starts the panel.
+    Tray();
+
+    /// Waits for an icon and returns its middle, in pixels of the screen; none when none comes.
+    [[nodiscard]] std::optional<std::pair<int, int>> icon();
+
+private:
+    testkit::Process panel_;
+    testkit::XScreen screen_;
+};
+
+} // namespace tocca::endtoend
