@@ -126,6 +126,12 @@ TEST_F(MenuBarViewTest, PickersChooseByMenuAndArrowKeys)
     EXPECT_EQ(machine.engine.deskSurface.get(), audio::AcousticDeskSurface::hardwoodDesk);
     EXPECT_EQ(text("deskSurfaceDescription").toStdString(), machine.engine.deskSurface.get().description());
 
+    key(Qt::Key_Return);
+    window.hide();
+    window.show();
+    settle();
+    EXPECT_FALSE(property("deskSurface", "opened").toBool()) << "a menu does not outlast its window";
+
     focus("mouseProfile");
     key(Qt::Key_Down);
     EXPECT_EQ(machine.engine.mouseProfile.get(), audio::MouseSwitchProfile::omron50M);

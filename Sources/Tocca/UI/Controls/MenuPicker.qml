@@ -8,6 +8,7 @@ Pressable {
 
     property list<string> options
     property int currentIndex
+    readonly property alias opened: menu.opened
 
     signal chosen(int index)
 

@@ -9,10 +9,12 @@ Item {
     property list<string> options
     property int currentIndex // the ticked option; −1 none
     readonly property bool opened: loader.active
+    readonly property bool onScreen: visible && Window.visibility !== Window.Hidden
 
     signal chosen(int index)
 
     function open(): void {
+        loader.parent = root.Window.contentItem; // not bound: a window that ends would move it about
         // Made from its file: this version of the engine makes no bound component in a loader.
         loader.setSource("PopupMenuSheet.qml", { target: root.target, options: root.options, currentIndex: root.currentIndex });
         loader.active = true;
@@ -28,11 +30,10 @@ Item {
         root.chosen(index);
     }
 
-    onVisibleChanged: if (!visible) loader.active = false
+    onOnScreenChanged: if (!onScreen) loader.active = false
 
     Loader {
         id: loader
-        parent: root.Window.contentItem
         anchors.fill: parent
         z: 900
         active: false

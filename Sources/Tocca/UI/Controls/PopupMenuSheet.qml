@@ -27,12 +27,13 @@ MouseArea {
     Keys.onEscapePressed: root.refused()
 
     Card {
-        readonly property point below: root.target.mapToItem(root, 0, root.target.height + 4)
+        readonly property point at: root.target.mapToItem(root, 0, 0)
+        readonly property real below: at.y + root.target.height + 4
         readonly property real room: root.height - 16
 
         Accessible.role: Accessible.PopupMenu
-        x: Math.max(8, Math.min(below.x, root.width - width - 8))
-        y: Math.max(8, Math.min(below.y, root.height - height - 8))
+        x: Math.max(8, Math.min(at.x, root.width - width - 8))
+        y: Math.max(8, below + height + 8 <= root.height ? below : Math.min(at.y - height - 4, root.height - height - 8))
         width: Math.max(root.target.width, 120)
         height: Math.min(list.contentHeight + 2 * padding, room)
         padding: 4

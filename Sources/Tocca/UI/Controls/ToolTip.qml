@@ -9,6 +9,8 @@ Item {
     property string text
     property bool shown
 
+    onShownChanged: if (shown) bubble.parent = root.Window.contentItem // not bound: a window that ends would move it about
+
     Timer {
         id: rest
         interval: 600 // milliseconds
@@ -20,7 +22,6 @@ Item {
 
         readonly property real gap: 6
 
-        parent: root.Window.contentItem
         z: 1000
         active: root.shown && root.text !== "" && !rest.running
         onLoaded: {
