@@ -9,7 +9,6 @@
 #include "UI/MenuBar/FileUrl.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 namespace tocca::ui {
@@ -37,9 +36,7 @@ bool PackImport::handleDrop(const std::vector<std::string>& providers)
     }
     if (auto folder = pathOfFileUrl(*first)) {
         host_.mainQueue.post(
-            lifetime_.guard([this, boxed = std::make_unique<std::filesystem::path>(std::move(*folder))] {
-                importFrom(*boxed, "Import failed: ");
-            }));
+            lifetime_.guard([this, folder = std::move(*folder)] { importFrom(folder, "Import failed: "); }));
     }
     return true;
 }

@@ -13,6 +13,7 @@ constexpr std::uint16_t kSpaceBar = 49;
 std::vector<SoundPackRow> builtIn(const audio::AudioEngine& engine)
 {
     std::vector<SoundPackRow> rows;
+    rows.reserve(audio::SwitchType::allCases.size());
     for (const audio::SwitchType type : audio::SwitchType::allCases) {
         rows.push_back(
             {.icon = std::string(type.iconName()),
