@@ -2,8 +2,8 @@
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 #include "Platform/Linux/LinuxHost.h"
-#include "Platform/Linux/Toolkit/ApplicationIcon.h"
 #include "Platform/Linux/Toolkit/DisplayChoice.h"
+#include "Platform/Linux/Toolkit/MotionPreference.h"
 #include "Platform/Linux/Toolkit/QuickView.h"
 #include "Platform/Linux/Toolkit/RendererChoice.h"
 #include "Platform/Linux/Toolkit/TerminationSignals.h"
@@ -36,11 +36,11 @@ ui::ViewFactory viewsOf(ui::Interface& interface)
         return std::make_unique<platform::linux::QuickView>(
             [&interface, make](QQuickItem& parent) { return (interface.*make)(parent); });
     };
-    return {.menuBar =
-                [&interface, view] {
-                    interface.prepareMenuBar();
-                    return view(&ui::Interface::makeMenuBarView);
-                },
+    const auto menuBar = [&interface, view] {
+        interface.prepareMenuBar();
+        return view(&ui::Interface::makeMenuBarView);
+    };
+    return {.menuBar = menuBar,
             .mainWindow = [view] { return view(&ui::Interface::makeMainWindowView); },
             .notchHUD = [view] { return view(&ui::Interface::makeNotchHUDView); },
             .underglow = [view] { return view(&ui::Interface::makeUnderglowView); }};
@@ -57,10 +57,7 @@ int main(int /*argc*/, char** argv)
     int nameAlone = 1; // the program takes no options, not even the toolkit's
     const QGuiApplication application(nameAlone, argv);
     signals.attach();
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.tocca.Tocca"));
-    QGuiApplication::setWindowIcon(platform::linux::applicationIcon());
     platform::linux::chooseRenderer();
-
     // What lives as long as the process: the controllers, what they stand on and what shows them.
     auto& desktop = *new Desktop;
     platform::setDefaultHost(desktop.host);
@@ -71,6 +68,9 @@ int main(int /*argc*/, char** argv)
         *new ui::Interface({.showMainWindow = [] { app::AppDelegate::shared()->showMainWindow(); },
                             .terminate = [&] { desktop.host.application.terminate(); }});
     ui::setDefaultViews(viewsOf(interface));
+    const platform::linux::MotionPreference motion(QDBusConnection::sessionBus(), [&](bool reducesMotion) {
+        interface.setReducesMotion(reducesMotion);
+    });
     desktop.output.start(desktop.mixer);
 
     auto& delegate = *new app::AppDelegate(desktop.host, app::AppDelegate::Collaborators::shared());

@@ -76,6 +76,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Toolkit/LocalKeys.cpp
         Platform/Linux/Toolkit/LoginSessionWatch.cpp
         Platform/Linux/Toolkit/MenuExport.cpp
+        Platform/Linux/Toolkit/MotionPreference.cpp
         Platform/Linux/Toolkit/OwnWindows.cpp
         Platform/Linux/Toolkit/PopoverWindow.cpp
         Platform/Linux/Toolkit/PopupMenu.cpp
@@ -120,6 +121,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Toolkit/LoginSessionWatch.h
         Platform/Linux/Toolkit/MenuExport.h
         Platform/Linux/Toolkit/MenuNode.h
+        Platform/Linux/Toolkit/MotionPreference.h
         Platform/Linux/Toolkit/OwnWindows.h
         Platform/Linux/Toolkit/PopoverWindow.h
         Platform/Linux/Toolkit/PopupMenu.h

@@ -29,6 +29,9 @@ public:
     /// Makes the popover's model, and with it the `shared` controllers, in their order.
     void prepareMenuBar();
 
+    /// Makes every change of what is shown immediate, or gradual as it is at the start.
+    void setReducesMotion(bool reducesMotion);
+
     /// Each makes the content of a window below `parent`. The popover's model must have been prepared.
     [[nodiscard]] QQuickItem* makeMenuBarView(QQuickItem& parent);
     [[nodiscard]] QQuickItem* makeMainWindowView(QQuickItem& parent);
@@ -36,8 +39,12 @@ public:
     [[nodiscard]] QQuickItem* makeUnderglowView(QQuickItem& parent);
 
 private:
+    [[nodiscard]] QQuickItem* inMotion(QQuickItem* item);
+    void applyMotion();
+
     const Commands commands_;
     QQmlEngine engine_;
+    bool reducesMotion_ = false;
     std::optional<MenuBarViewModel> menuBar_;
     std::optional<MainWindowViewModel> mainWindow_;
 };

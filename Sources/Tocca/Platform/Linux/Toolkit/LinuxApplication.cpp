@@ -1,5 +1,7 @@
 #include "Platform/Linux/Toolkit/LinuxApplication.h"
 
+#include "Platform/Linux/Applications/LinuxLoginItem.h"
+#include "Platform/Linux/Toolkit/ApplicationIcon.h"
 #include "Platform/Linux/Toolkit/ContentWindow.h"
 #include "Platform/Linux/Toolkit/DesktopNotice.h"
 #include "Platform/Linux/Toolkit/Later.h"
@@ -15,7 +17,10 @@ namespace tocca::platform::linux {
 
 LinuxApplication::LinuxApplication(Surroundings surroundings)
     : surroundings_(std::move(surroundings))
-{}
+{
+    QGuiApplication::setDesktopFileName(QLatin1String(kApplicationId));
+    QGuiApplication::setWindowIcon(applicationIcon());
+}
 
 bool LinuxApplication::isFirstInstance()
 {
