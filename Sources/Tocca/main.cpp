@@ -53,7 +53,7 @@ int main(int /*argc*/, char** argv)
     setThreadRole(ThreadRole::Main);
     platform::linux::LinuxStandardOutput::reserveDescriptors();
     platform::linux::TerminationSignals signals; // before the toolkit starts a thread that would take them
-    platform::linux::preferXServer();
+    platform::linux::chooseDisplay();
     int nameAlone = 1; // the program takes no options, not even the toolkit's
     const QGuiApplication application(nameAlone, argv);
     signals.attach();

@@ -9,18 +9,6 @@ namespace tocca::endtoend {
 
 using namespace std::chrono_literals;
 
-bool becomesTrue(const std::function<bool()>& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + kDeadline;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        std::this_thread::sleep_for(5ms);
-    }
-    return true;
-}
-
 void InterfaceAtWork::SetUp()
 {
     ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();

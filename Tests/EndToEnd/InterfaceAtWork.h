@@ -4,14 +4,10 @@
 #include "EndToEnd/ScreenReader.h"
 #include "TestKit/XScreen.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 
 namespace tocca::endtoend {
-
-/// Waits until `condition` holds; false when the deadline passes first.
-[[nodiscard]] bool becomesTrue(const std::function<bool()>& condition);
 
 /// The program with its windows, read by a screen reader and worked with a pointer.
 class InterfaceAtWork : public testing::Test {

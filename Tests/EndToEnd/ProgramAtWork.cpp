@@ -3,11 +3,13 @@
 #include "TestKit/Now.h"
 
 #include <stdexcept>
+#include <thread>
 
 namespace tocca::endtoend {
 
 namespace {
 
+using namespace std::chrono_literals;
 using testkit::now;
 
 constexpr std::chrono::seconds kCapacity{300};
@@ -27,9 +29,25 @@ void soundServer(const char* command)
     }
 }
 
+bool becomesTrue(const std::function<bool()>& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + kDeadline;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end) {
+            return false;
+        }
+        std::this_thread::sleep_for(5ms);
+    }
+    return true;
+}
+
 void ProgramAtWork::SetUp()
 {
     ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
+    ASSERT_TRUE(becomesTrue([this] { return screen.activeWindow() == "Tocca Studio"; })) << program.output();
+    elsewhere = std::make_unique<testkit::XWindow>(testkit::XWindow::Traits{"elsewhere", "Elsewhere"});
+    elsewhere->activate();
+    ASSERT_TRUE(becomesTrue([this] { return screen.activeWindow() != "Tocca Studio"; }));
     recordAgain();
     ASSERT_TRUE(testkit::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
 }

@@ -4,9 +4,13 @@
 #include "TestKit/MonitorRecorder.h"
 #include "TestKit/Process.h"
 #include "TestKit/Rehearsal.h"
+#include "TestKit/XScreen.h"
 #include "TestKit/XTestKeyboard.h"
+#include "TestKit/XWindow.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <random>
 #include <span>
 #include <vector>
@@ -23,13 +27,17 @@ inline constexpr std::chrono::seconds kDeadline{20};
 /// The program under test, started with changes to its environment.
 [[nodiscard]] testkit::Process startProgram(const testkit::Process::Environment& changes = {});
 
+/// Waits until `condition` holds; false when the deadline passes first.
+[[nodiscard]] bool becomesTrue(const std::function<bool()>& condition);
+
 /// Runs the session's own sound server commands, "stop-sound" and "start-sound".
 void soundServer(const char* command);
 
 /// The program at work in this session, hands on its keyboard and ears at its sink.
 class ProgramAtWork : public testing::Test {
 protected:
-    /// Waits until the program listens and its first key has been heard.
+    /// Waits until the program listens and its first key has been heard. Keys go to the window of another program, since in the
+    /// program's own they would work its controls.
     void SetUp() override;
 
     /// Types `keys` and returns what was heard of them, waiting for the end of the last sound.
@@ -43,6 +51,8 @@ protected:
     void recordAgain();
 
     testkit::Process program{startProgram()};
+    testkit::XScreen screen;
+    std::unique_ptr<testkit::XWindow> elsewhere;
     std::unique_ptr<testkit::MonitorRecorder> recorder;
     testkit::XTestKeyboard keyboard;
     std::mt19937 random{20}; // NOLINT(cert-msc51-cpp): the same typing each time

@@ -3,12 +3,38 @@
 #include <QByteArray>
 #include <QtGlobal>
 
+#include <xcb/xcb.h>
+
 namespace tocca::platform::linux {
 
-void preferXServer()
+namespace {
+
+constexpr const char* kPlatform = "QT_QPA_PLATFORM"; // the toolkit's own
+
+bool answersX()
 {
-    if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", QByteArrayLiteral("xcb;wayland"));
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
+        return false;
+    }
+    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return answers;
+}
+
+} // namespace
+
+void chooseDisplay()
+{
+    if (qEnvironmentVariableIsSet(kPlatform)) {
+        return;
+    }
+    if (answersX()) {
+        qputenv(kPlatform, QByteArrayLiteral("xcb"));
+    } else if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        qputenv(kPlatform, QByteArrayLiteral("wayland;offscreen"));
+    } else {
+        qputenv(kPlatform, QByteArrayLiteral("offscreen"));
     }
 }
 
