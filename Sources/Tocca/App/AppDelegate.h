@@ -47,7 +47,7 @@ public:
     AppDelegate(platform::Host& host, Collaborators collaborators);
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
-    virtual ~AppDelegate();
+    ~AppDelegate() override;
 
     /// The delegate, or null while there is none.
     [[nodiscard]] static AppDelegate* shared() noexcept { return shared_; }

@@ -10,15 +10,14 @@ enum class ActivationPolicy : std::uint8_t { regular, accessory };
 /// Told of the program's life by the desktop. Threads: main.
 class ApplicationDelegate {
 public:
+    virtual ~ApplicationDelegate() = default;
+
     /// The event loop runs; called once.
     virtual void applicationDidFinishLaunching() = 0;
 
     /// The program was launched again while it runs. True when that is dealt with.
     virtual bool applicationShouldHandleReopen(bool hasVisibleWindows) = 0;
     [[nodiscard]] virtual bool applicationShouldTerminateAfterLastWindowClosed() = 0;
-
-protected:
-    ~ApplicationDelegate() = default;
 };
 
 /// The running program, as the desktop knows it: one instance a session. Threads: main.

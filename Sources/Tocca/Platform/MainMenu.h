@@ -45,14 +45,13 @@ struct MenuItemState {
 /// The end of the responder chain: what no window and no text field has an answer to. Threads: main.
 class MenuTarget {
 public:
+    virtual ~MenuTarget() = default;
+
     /// False when `action` is not the target's.
     virtual bool performMenuAction(std::string_view action) = 0;
 
     /// Asked before the item is shown and before it is chosen.
     [[nodiscard]] virtual MenuItemState validateMenuItem(const MenuItem& item) = 0;
-
-protected:
-    ~MenuTarget() = default;
 };
 
 /// The program's main menu and its key equivalents, which hold in all of its windows. Threads: main, calls included.
