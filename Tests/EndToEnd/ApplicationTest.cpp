@@ -5,7 +5,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <linux/input-event-codes.h>
 
@@ -13,7 +12,6 @@ namespace tocca::endtoend {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::Contains;
 
 constexpr const char* kStudio = "Tocca Studio";
 
