@@ -74,7 +74,7 @@ TEST(Contacts, GetHarderAndShorterWithSpeed)
 
 TEST(Resonators, RingAtTheirFrequencyAndDieInTheirTime)
 {
-    std::vector<double> force(kSampleRate);
+    std::vector<double> force(static_cast<std::size_t>(kSampleRate));
     force[0] = 1;
     std::vector<double> sound(force.size());
     resonate({{.hz = 1000, .t60 = 0.5, .amplitude = 0.8}}, force, 1, sound);
