@@ -116,7 +116,6 @@ app_module(tocca_linux_desktop
         Platform/Linux/Toolkit/LinuxStatusBar.h
         Platform/Linux/Toolkit/LinuxWindows.h
         Platform/Linux/Toolkit/LinuxWorkspace.h
-        Platform/Linux/Toolkit/Listeners.h
         Platform/Linux/Toolkit/LocalKeys.h
         Platform/Linux/Toolkit/LoginSessionWatch.h
         Platform/Linux/Toolkit/MenuExport.h

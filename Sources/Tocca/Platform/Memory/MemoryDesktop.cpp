@@ -1,7 +1,5 @@
 #include "Platform/Memory/MemoryDesktop.h"
 
-#include <algorithm>
-
 namespace tocca::platform::memory {
 namespace {
 
@@ -124,24 +122,6 @@ private:
 };
 
 } // namespace
-
-Subscription Listeners::add(std::function<void()> handler)
-{
-    auto kept = std::make_shared<std::function<void()>>(std::move(handler));
-    handlers_.emplace_back(kept);
-    return Subscription([kept]() mutable { kept.reset(); });
-}
-
-void Listeners::call()
-{
-    std::erase_if(handlers_, [](const auto& handler) { return handler.expired(); });
-    const auto handlers = handlers_;
-    for (const auto& handler : handlers) {
-        if (const auto live = handler.lock()) {
-            (*live)();
-        }
-    }
-}
 
 void MemoryScreens::change(std::optional<Screen> main)
 {

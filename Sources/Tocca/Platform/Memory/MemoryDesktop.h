@@ -9,6 +9,7 @@
 #include "Platform/StatusBar.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/Windows.h"
+#include "Support/Listeners.h"
 
 #include <functional>
 #include <map>
@@ -22,16 +23,6 @@ namespace tocca::platform::memory {
 
 /// What happened on the desktop, in order: "window ordered front", "policy regular".
 using Journal = std::vector<std::string>;
-
-/// Handlers that are called for as long as their tokens live.
-class Listeners {
-public:
-    [[nodiscard]] Subscription add(std::function<void()> handler);
-    void call();
-
-private:
-    std::vector<std::weak_ptr<std::function<void()>>> handlers_;
-};
 
 /// Displays that a test connects and takes away.
 class MemoryScreens : public Screens {

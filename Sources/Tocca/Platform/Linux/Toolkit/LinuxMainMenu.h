@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Platform/Linux/Toolkit/Listeners.h"
 #include "Platform/Linux/Toolkit/MenuExport.h"
 #include "Platform/Linux/Toolkit/OwnWindows.h"
 #include "Platform/Linux/Toolkit/StandardActions.h"
 #include "Platform/MainMenu.h"
+#include "Support/Listeners.h"
 
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/Linux/Toolkit/Listeners.h"
 #include "Platform/Screens.h"
+#include "Support/Listeners.h"
 
 #include <QMetaObject>
 #include <QObject>

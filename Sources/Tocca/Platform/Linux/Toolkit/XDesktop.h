@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Platform/Linux/Toolkit/Listeners.h"
 #include "Platform/Linux/X11/SelectionWatch.h"
 #include "Platform/Linux/X11/WindowRequests.h"
+#include "Support/Listeners.h"
 
 #include <QSocketNotifier>
 

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace tocca::platform::linux {
+namespace tocca {
 
 /// Handlers that are called for as long as their tokens live. Threads: main.
 class Listeners {
@@ -35,4 +35,4 @@ private:
     std::vector<std::weak_ptr<std::function<void()>>> handlers_;
 };
 
-} // namespace tocca::platform::linux
+} // namespace tocca
