@@ -99,27 +99,6 @@ std::string XScreen::activeWindow() const
     return active.empty() || active[0] == 0 ? std::string() : nameOf(active[0]);
 }
 
-std::uint32_t XScreen::focus() const
-{
-    const auto reply =
-        own(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
-    return reply ? reply->focus : 0;
-}
-
-std::vector<std::string> XScreen::atoms(std::uint32_t window, const char* property) const
-{
-    std::vector<std::string> names;
-    for (const std::uint32_t word : words(window, property)) {
-        const auto reply = own(
-            xcb_get_atom_name_reply(connection_.get(), xcb_get_atom_name(connection_.get(), word), nullptr));
-        if (reply) {
-            names.emplace_back(xcb_get_atom_name_name(reply.get()),
-                               static_cast<std::size_t>(xcb_get_atom_name_name_length(reply.get())));
-        }
-    }
-    return names;
-}
-
 std::uint32_t XScreen::atom(const char* name) const
 {
     const std::string_view text(name);

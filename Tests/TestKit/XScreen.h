@@ -60,12 +60,6 @@ public:
     /// The name of the window that the window manager calls active; empty when there is none.
     [[nodiscard]] std::string activeWindow() const;
 
-    /// The window that has the keyboard.
-    [[nodiscard]] std::uint32_t focus() const;
-
-    /// The atoms of a window's property, by name: "_NET_WM_STATE".
-    [[nodiscard]] std::vector<std::string> atoms(std::uint32_t window, const char* property) const;
-
 private:
     [[nodiscard]] std::uint32_t atom(const char* name) const;
     [[nodiscard]] std::vector<std::uint32_t> words(std::uint32_t window, const char* property) const;
