@@ -18,7 +18,8 @@ QSGNode* PixelItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/
     const qreal scale = window()->effectiveDevicePixelRatio();
     const QSize pixels(static_cast<int>(std::ceil(width() * scale)),
                        static_cast<int>(std::ceil(height() * scale)));
-    if (pixels.isEmpty()) {
+    const QImage image = pixels.isEmpty() ? QImage() : draw(pixels, scale);
+    if (image.isNull()) {
         delete node;
         return nullptr;
     }
@@ -28,7 +29,7 @@ QSGNode* PixelItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/
         shown->setOwnsTexture(true);
         shown->setFiltering(QSGTexture::Linear);
     }
-    shown->setTexture(window()->createTextureFromImage(draw(pixels, scale)));
+    shown->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
     shown->setRect(0, 0, pixels.width() / scale, pixels.height() / scale);
     return shown;
 }

@@ -15,7 +15,8 @@ public:
     explicit PixelItem(QQuickItem* parent = nullptr);
 
 protected:
-    /// The picture for the item's size. Units: `scale` in pixels a point; the image has as many pixels as the item covers.
+    /// The picture for the item's size. Units: `scale` in pixels a point; the image has as many pixels as the item covers, or none
+    /// when there is nothing to show.
     [[nodiscard]] virtual QImage draw(const QSize& pixels, qreal scale) const = 0;
 
     QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;

@@ -2,17 +2,11 @@
 
 #include "UI/Symbols/SymbolDrawings.h"
 
-#include <QQuickWindow>
-#include <QSGImageNode>
-
-#include <cmath>
-
 namespace tocca::ui {
 
 Symbol::Symbol(QQuickItem* parent)
-    : QQuickItem(parent)
+    : PixelItem(parent)
 {
-    setFlag(ItemHasContents);
     connect(this, &Symbol::drawingChanged, this, &Symbol::update);
     setSize(16);
 }
@@ -26,31 +20,9 @@ void Symbol::setSize(int size)
     }
 }
 
-QSGNode* Symbol::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/)
+QImage Symbol::draw(const QSize& pixels, qreal /*scale*/) const
 {
-    const auto pixels = static_cast<int>(std::ceil(size_ * window()->effectiveDevicePixelRatio()));
-    const QImage image = drawSymbol(name_, pixels, color_);
-    if (image.isNull()) {
-        delete node;
-        return nullptr;
-    }
-    auto* shown = static_cast<QSGImageNode*>(node);
-    if (shown == nullptr) {
-        shown = window()->createImageNode();
-        shown->setOwnsTexture(true);
-        shown->setFiltering(QSGTexture::Linear);
-    }
-    shown->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
-    shown->setRect(0, 0, size_, size_);
-    return shown;
-}
-
-void Symbol::itemChange(ItemChange change, const ItemChangeData& value)
-{
-    if (change == ItemDevicePixelRatioHasChanged) {
-        update();
-    }
-    QQuickItem::itemChange(change, value);
+    return drawSymbol(name_, pixels.width(), color_);
 }
 
 } // namespace tocca::ui

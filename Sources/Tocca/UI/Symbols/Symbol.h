@@ -1,12 +1,14 @@
 #pragma once
 
+#include "UI/Quick/PixelItem.h"
+
 #include <QColor>
-#include <QQuickItem>
+#include <QImage>
 
 namespace tocca::ui {
 
 /// Shows a symbol of the program's family, drawn for the screen's own pixels. Units: `size` in points, the side of its square.
-class Symbol : public QQuickItem {
+class Symbol : public tocca::ui::PixelItem { // the QML compiler knows it by its full name
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString name MEMBER name_ NOTIFY drawingChanged FINAL)
@@ -21,8 +23,7 @@ public:
     Q_SIGNAL void drawingChanged();
 
 protected:
-    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;
-    void itemChange(ItemChange change, const ItemChangeData& value) override;
+    [[nodiscard]] QImage draw(const QSize& pixels, qreal scale) const override;
 
 private:
     QString name_;
