@@ -69,4 +69,11 @@ Rectangle {
         anchors.fill: parent
         model: root.model
     }
+
+    // Its window has no frame, and what lies beneath may have the same colour.
+    Rectangle {
+        anchors.fill: parent
+        color: "transparent"
+        border.color: Qt.alpha(Theme.textMuted, 0.35)
+    }
 }
