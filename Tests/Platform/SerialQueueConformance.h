@@ -80,8 +80,8 @@ TYPED_TEST_P(SerialQueueConformance, GivesUpTheOldestTasksUnderOverloadAndCounts
     for (int i = 0; i < kTasks; ++i) {
         queue->post([&, i] {
             outOfOrder += i <= last ? 1 : 0;
-            last = i;
             ++ran;
+            last = i; // ends the wait below
         });
     }
     ASSERT_TRUE(this->machine_.runUntil([&] { return last == kTasks - 1; })) << "the newest task never ran";
