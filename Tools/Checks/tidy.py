@@ -3,6 +3,9 @@
 
 usage: tidy.py BUILD_DIRECTORY
 
+Most of the checker's time goes into the headers of libraries, so sources that are compiled alike are looked at several at a
+time. Those that cannot be compiled together, for two of them have the same name for different things, are taken apart again.
+
 A source passes without being looked at again while its compile command, the checks and every file of the repository that
 it is made of are what they were when it last passed; the stamps are in BUILD_DIRECTORY/tidy.
 """
@@ -13,12 +16,14 @@ import os
 import shlex
 import subprocess
 import sys
+from collections import defaultdict
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 TIDY = "clang-tidy-14"
 FOLDERS = ("Sources", "Tools", "Tests", "Benchmarks")
 ROOT = Path(__file__).resolve().parents[2]
+MOST_TOGETHER = 10
 
 
 def is_ours(path):
@@ -32,7 +37,7 @@ def dependencies(build):
     for line in text.splitlines():
         if line.startswith(" "):
             path = Path(os.path.normpath(build / line.strip()))
-            if is_ours(path):
+            if is_ours(path) and path.exists():
                 current.append(path)
         elif ": #deps" in line:
             current = result.setdefault(line.split(": #deps")[0], [])
@@ -42,6 +47,13 @@ def dependencies(build):
 def output(entry):
     words = shlex.split(entry["command"])
     return words[words.index("-o") + 1]
+
+
+def flags(entry):
+    """What a compile command says beside the names of its files."""
+    words = shlex.split(entry["command"])
+    at = words.index("-o")
+    return tuple(word for word in words[:at] + words[at + 2:] if word not in (entry["file"], "-c"))
 
 
 def fingerprint(entry, files, common):
@@ -57,12 +69,42 @@ def configurations():
     return [ROOT / ".clang-tidy", *(file for folder in FOLDERS for file in sorted((ROOT / folder).rglob(".clang-tidy")))]
 
 
-def check(build, file):
-    run = subprocess.run([TIDY, "-p", build, "--quiet", "--extra-arg=-Wno-unknown-warning-option", file],
-                         capture_output=True, text=True)
-    noise = "warnings generated", "warning generated", "warnings treated as errors"
-    errors = [line for line in run.stderr.splitlines() if not any(word in line for word in noise)]
-    return run.returncode == 0, "\n".join([run.stdout.rstrip(), *errors]).strip()
+def configuration_of(file):
+    """The folder whose checks hold for a source."""
+    return next(folder for folder in Path(file).parents if (folder / ".clang-tidy").exists())
+
+
+class Checker:
+    """Looks at sources together. Threads: any."""
+
+    def __init__(self, folder):
+        self.folder = folder
+        self.configurations = {}
+
+    def configure(self, where):
+        """Writes down the checks of a folder: those of the place where the sources are put together would be others."""
+        path = self.folder / f"{where.relative_to(ROOT).as_posix().replace('/', '-')}.yaml"
+        dump = subprocess.run([TIDY, "--dump-config", where / "any.cpp"], capture_output=True, text=True, check=True)
+        path.write_text(dump.stdout)
+        self.configurations[where] = path
+
+    def check(self, where, command, directory, files):
+        """Returns the sources that passed, and what there is to say about the others."""
+        name = hashlib.sha256("\n".join(files).encode()).hexdigest()[:16]
+        together = self.folder / f"{name}.cpp"
+        together.write_text("".join(f'#include "{file}" // NOLINT\n' for file in files))
+        run = subprocess.run(
+            [TIDY, f"--config-file={self.configurations[where]}", "--quiet", together, "--", *command,
+             "-Wno-unknown-warning-option"], capture_output=True, text=True, cwd=directory)
+        together.unlink()
+        if "clang-diagnostic-error" in run.stdout and len(files) > 1:
+            half = len(files) // 2
+            parts = [self.check(where, command, directory, part) for part in (files[:half], files[half:])]
+            return parts[0][0] + parts[1][0], "\n".join(report for _, report in parts if report)
+        noise = "warnings generated", "warning generated", "warnings treated as errors"
+        errors = [line for line in run.stderr.splitlines() if not any(word in line for word in noise)]
+        report = "\n".join([run.stdout.rstrip(), *errors]).strip()
+        return (files, report) if run.returncode == 0 else ([], report or f"{TIDY} failed")
 
 
 def main():
@@ -75,7 +117,7 @@ def main():
     common = version.encode() + b"".join(file.read_bytes() for file in configurations())
     made_of = dependencies(build)
 
-    todo = {}
+    groups = defaultdict(dict)  # (folder of the checks, flags, directory) -> source -> its stamps
     total = 0
     for entry in json.loads((build / "compile_commands.json").read_text()):
         if not is_ours(Path(entry["file"])):
@@ -83,24 +125,35 @@ def main():
         total += 1
         stamp = stamps / fingerprint(entry, made_of.get(output(entry), ()), common)
         if not stamp.exists():
-            todo.setdefault(entry["file"], []).append(stamp)
-    print(f"{total} sources, {len(todo)} to look at", flush=True)
+            key = configuration_of(entry["file"]), flags(entry), entry["directory"]
+            groups[key].setdefault(entry["file"], []).append(stamp)
+    print(f"{total} sources, {sum(map(len, groups.values()))} to look at", flush=True)
 
-    failed = 0
+    checker = Checker(stamps)
+    for where in {where for where, _, _ in groups}:
+        checker.configure(where)
+    failed = False
 
     def run(item):
         nonlocal failed
-        file, passed_stamps = item
-        passed, report = check(build, file)
-        if passed:
-            for stamp in passed_stamps:
+        key, files = item
+        where, (_, *command), directory = key
+        passed, report = checker.check(where, command, directory, files)
+        for file in passed:
+            for stamp in groups[key][file]:
                 stamp.touch()
-        else:
-            failed += 1
-            print(f"{Path(file).relative_to(ROOT)}:\n{report}", flush=True)
+        failed |= len(passed) < len(files)
+        if report:
+            print(report, flush=True)
 
+    jobs = []
+    for key, sources in groups.items():
+        files = sorted(sources)
+        count = -(-len(files) // MOST_TOGETHER)
+        jobs += [(key, files[i * len(files) // count:(i + 1) * len(files) // count]) for i in range(count)]
+    jobs.sort(key=lambda job: -len(job[1]))
     with ThreadPoolExecutor(len(os.sched_getaffinity(0))) as pool:
-        list(pool.map(run, todo.items()))
+        list(pool.map(run, jobs))
     sys.exit(1 if failed else 0)
 
 
