@@ -2,6 +2,7 @@
 #include "TestKit/Now.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <gmock/gmock.h>
 #include <thread>
@@ -16,8 +17,8 @@ using testing::Le;
 
 class PeripheralSounds : public ProgramAtWork {
 protected:
-    /// The highest sample of each channel that a press of `button` makes.
-    std::array<float, 2> peaksOf(std::uint8_t button)
+    /// The highest sample that a press of `button` makes, the same in both channels.
+    float peakOf(std::uint8_t button)
     {
         std::this_thread::sleep_for(300ms); // the end of whatever sounds
         const double from = keyboard.pressButton(button);
@@ -25,13 +26,15 @@ protected:
         keyboard.releaseButton(button);
         EXPECT_EQ(soundsSince(from).size(), 1U);
         const testkit::Recording recording = recorder->recording();
-        std::array<float, 2> peaks{};
+        float peak = 0.0F;
+        float difference = 0.0F;
         const auto samples = recording.between(from, testkit::now());
         for (std::size_t i = 0; i + 1 < samples.size(); i += 2) {
-            peaks[0] = std::max(peaks[0], samples[i]);
-            peaks[1] = std::max(peaks[1], samples[i + 1]);
+            peak = std::max(peak, samples[i]);
+            difference = std::max(difference, std::abs(samples[i] - samples[i + 1]));
         }
-        return peaks;
+        EXPECT_EQ(difference, 0.0F) << "in the middle";
+        return peak;
     }
 };
 
@@ -57,11 +60,14 @@ TEST_F(PeripheralSounds, AreAsLoudAsTheyWereMade)
         {.name = "wheel down", .button = 5, .level = 12211 / kFullScale * 0.45F},
     }};
     for (const Row& row : rows) {
-        for (int round = 0; round < kRounds; ++round) {
-            SCOPED_TRACE(row.name);
-            const auto within = AllOf(Ge(row.level * kMissed), Le(row.level * kOvershot));
-            EXPECT_THAT(peaksOf(row.button), testing::ElementsAre(within, within)) << "in the middle";
+        SCOPED_TRACE(row.name);
+        std::array<float, kRounds> peaks{};
+        for (float& peak : peaks) {
+            peak = peakOf(row.button);
         }
+        // The middle one: a computer that stands still for a millisecond takes the top off a click.
+        std::nth_element(peaks.begin(), peaks.begin() + kRounds / 2, peaks.end());
+        EXPECT_THAT(peaks[kRounds / 2], AllOf(Ge(row.level * kMissed), Le(row.level * kOvershot)));
     }
 }
 
