@@ -1,6 +1,7 @@
 #include "Figures.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdio>
 
@@ -15,11 +16,16 @@ double quantile(const std::vector<double>& sorted, double share)
     return sorted[static_cast<std::size_t>(std::max(rank, 1.0)) - 1];
 }
 
+std::string number(double value, int decimals = 1)
+{
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
+    return text.data();
+}
+
 std::string milliseconds(double seconds)
 {
-    char text[16]; // NOLINT(modernize-avoid-c-arrays)
-    std::snprintf(text, sizeof(text), "%.2f", seconds * 1000.0);
-    return text;
+    return number(seconds * 1000.0, 2);
 }
 
 std::string row(const std::string& condition, const std::string& what, const std::vector<double>& durations)
@@ -37,10 +43,35 @@ std::string summary(const Figures& figures)
            std::to_string(figures.quantum) + " frames, jitter " + milliseconds(errors.p95 - errors.p5) +
            " ms, " + std::to_string(figures.missedStrokes) + " strokes missed, " +
            std::to_string(figures.spuriousSounds) + " sounds too many, " +
-           std::to_string(figures.missedCycles) + " cycles missed.\n";
+           std::to_string(figures.missedCycles) + " cycles missed; main thread " +
+           number(100.0 * figures.mainThreadWork / figures.duration) + " % of a core, " +
+           number(static_cast<double>(figures.frames) / figures.duration) +
+           " frames a second in both overlays.\n";
+}
+
+void append(std::vector<double>& to, const std::vector<double>& more)
+{
+    to.insert(to.end(), more.begin(), more.end());
 }
 
 } // namespace
+
+Figures& Figures::operator+=(const Figures& other)
+{
+    condition = other.condition;
+    quantum = other.quantum;
+    strokes += other.strokes;
+    append(toFirstSample, other.toFirstSample);
+    append(toMonitor, other.toMonitor);
+    append(intervalError, other.intervalError);
+    missedStrokes += other.missedStrokes;
+    spuriousSounds += other.spuriousSounds;
+    missedCycles += other.missedCycles;
+    frames += other.frames;
+    mainThreadWork += other.mainThreadWork;
+    duration += other.duration;
+    return *this;
+}
 
 Spread spreadOf(std::vector<double> durations)
 {

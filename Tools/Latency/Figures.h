@@ -29,6 +29,12 @@ struct Figures {
     int missedStrokes = 0;
     int spuriousSounds = 0;
     std::uint64_t missedCycles = 0; ///< of the program's stream
+    std::uint64_t frames = 0;       ///< painted by the overlays
+    double mainThreadWork = 0.0;
+    double duration = 0.0; ///< of the typing
+
+    /// Adds a further series of the same condition.
+    Figures& operator+=(const Figures& other);
 };
 
 /// The table for people, in Markdown.

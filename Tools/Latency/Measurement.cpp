@@ -1,6 +1,7 @@
 #include "Measurement.h"
 
 #include "Subject.h"
+#include "TestKit/Now.h"
 #include "TestKit/Rehearsal.h"
 
 #include <cstdint>
@@ -12,7 +13,6 @@ namespace tocca::latency {
 namespace {
 
 constexpr std::chrono::seconds kDeadline{30};
-constexpr testkit::Rhythm kRhythm{.shortest = 0.06, .longest = 0.14};
 constexpr double kLongestStroke = 0.2; // seconds of recording that a stroke may need
 
 std::vector<std::uint16_t> keysFor(int strokes)
@@ -48,26 +48,33 @@ void compare(const testkit::Hearing& hearing, Figures& figures)
 
 } // namespace
 
-Figures measure(Subject& subject, const std::string& condition, int strokes)
+Figures measure(Subject& subject, const Condition& condition)
 {
+    subject.post([&subject, shown = condition.hasOverlays] { subject.setOverlaysEnabled(shown); });
     testkit::XTestKeyboard keyboard;
     const testkit::MonitorRecorder recorder(
-        std::chrono::seconds(static_cast<int>(strokes * kLongestStroke) + 60), kDeadline);
+        std::chrono::seconds(static_cast<int>(condition.strokes * kLongestStroke) + 60), kDeadline);
     if (!testkit::becomesAudible(keyboard, recorder, kDeadline)) {
         throw std::runtime_error("no key is heard");
     }
     (void)subject.takeTimesToFirstSample();
     const std::uint64_t missedBefore = subject.output().missedCycles;
+    const std::uint64_t framesBefore = subject.framesPainted();
+    const double workBefore = subject.mainThreadWork();
+    const double began = testkit::now();
 
     std::mt19937 random(5); // NOLINT(cert-msc51-cpp,cert-msc32-c): the same typing each time
-    const testkit::Hearing hearing =
-        testkit::typeAndHear(keyboard, recorder, keysFor(strokes), kRhythm, random, kDeadline);
+    const testkit::Hearing hearing = testkit::typeAndHear(keyboard, recorder, keysFor(condition.strokes),
+                                                          condition.rhythm, random, kDeadline);
 
     Figures figures;
-    figures.condition = condition;
-    figures.strokes = strokes;
+    figures.condition = condition.name;
+    figures.strokes = condition.strokes;
     figures.quantum = subject.output().quantum;
     figures.missedCycles = subject.output().missedCycles - missedBefore;
+    figures.frames = subject.framesPainted() - framesBefore;
+    figures.mainThreadWork = subject.mainThreadWork() - workBefore;
+    figures.duration = testkit::now() - began;
     figures.toFirstSample = subject.takeTimesToFirstSample();
     compare(hearing, figures);
     return figures;

@@ -1,20 +1,24 @@
 #pragma once
 
 #include "Figures.h"
+#include "TestKit/Typist.h"
 
 #include <string>
-
-namespace tocca::testkit {
-class MonitorRecorder;
-class XTestKeyboard;
-} // namespace tocca::testkit
 
 namespace tocca::latency {
 
 class Subject;
 
-/// Types `strokes` keys to `subject` and returns how long they took.
+/// What is typed, and what is shown meanwhile.
+struct Condition {
+    std::string name;
+    int strokes = 0;
+    testkit::Rhythm rhythm;
+    bool hasOverlays = false;
+};
+
+/// Types to `subject` and returns how long its strokes took.
 /// Threads: one that is not the subject's main thread. Errors: throws `std::runtime_error` when nothing is heard at all.
-[[nodiscard]] Figures measure(Subject& subject, const std::string& condition, int strokes);
+[[nodiscard]] Figures measure(Subject& subject, const Condition& condition);
 
 } // namespace tocca::latency

@@ -11,15 +11,24 @@
 #include "Player/Mixer.h"
 #include "Player/MixerAudioPlayers.h"
 #include "Player/StrokeTrace.h"
+#include "UI/NotchHUD/NotchAcousticHUDController.h"
+#include "UI/Underglow/SpatialUnderglowController.h"
 
+#include <QQmlEngine>
+
+#include <atomic>
+#include <cstdint>
+#include <pthread.h>
 #include <utility>
 #include <vector>
 
 namespace tocca::latency {
 
-/// The program's own parts between the key and the sink, put together as the program does, with a trace in the mixer.
+/// The program's own parts between the key and the sink, put together as the program does, with a trace in the mixer, and the two
+/// overlays, hidden at first.
 ///
 /// Threads: main, but for the members that say otherwise.
+/// Lifetime: begins after the application object.
 class Subject {
 public:
     Subject();
@@ -35,7 +44,18 @@ public:
     /// Runs `task` on the main thread. Threads: any.
     void post(Task task) { system_.mainQueue().post(std::move(task)); }
 
+    /// Has both overlays answer strokes from now on, or neither.
+    void setOverlaysEnabled(bool enabled);
+
+    /// How many times an overlay has been painted. Threads: any.
+    [[nodiscard]] std::uint64_t framesPainted() const noexcept { return framesPainted_; }
+
+    /// What the main thread has worked, which is the one that paints. Units: seconds. Threads: any.
+    [[nodiscard]] double mainThreadWork() const noexcept;
+
 private:
+    void countFrames();
+
     ClickPack pack_;
     player::StrokeTrace trace_;
     platform::linux::LinuxHost system_;
@@ -47,6 +67,11 @@ private:
     audio::SoundPackLoader loader_;
     audio::AudioEngine engine_;
     keyboard::KeyboardMonitor monitor_;
+    QQmlEngine views_;
+    ui::NotchAcousticHUDController hud_;
+    ui::SpatialUnderglowController underglow_;
+    std::atomic<std::uint64_t> framesPainted_{0};
+    pthread_t mainThread_ = pthread_self();
 };
 
 } // namespace tocca::latency

@@ -1,9 +1,12 @@
 #include "Measurement.h"
+#include "Platform/Linux/Toolkit/RendererChoice.h"
 #include "Subject.h"
 #include "Support/ThreadRole.h"
 #include "TestKit/Process.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QtQml/QQmlExtensionPlugin>
+
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -12,12 +15,19 @@
 #include <thread>
 #include <vector>
 
+Q_IMPORT_QML_PLUGIN(Tocca_UIPlugin)
+
 namespace {
 
 using namespace tocca;
 
 constexpr int kStrokes = 500;
 constexpr int kBusyLoops = 4;
+constexpr testkit::Rhythm kTyping{.shortest = 0.06, .longest = 0.14};
+// With and without overlays by turns, since a computer is not equally quick all the time.
+constexpr int kTurns = 5;
+constexpr int kStrokesATurn = 200;
+constexpr testkit::Rhythm kFifteenASecond{.shortest = 0.0567, .longest = 0.0767};
 
 std::vector<std::unique_ptr<testkit::Process>> startBusyLoops()
 {
@@ -30,14 +40,31 @@ std::vector<std::unique_ptr<testkit::Process>> startBusyLoops()
     return loops;
 }
 
-/// Measures in both conditions and prints the table; returns the exit status.
+std::vector<latency::Figures> compareOverlays(latency::Subject& subject)
+{
+    latency::Figures without;
+    latency::Figures with;
+    for (int turn = 0; turn < kTurns; ++turn) {
+        without += latency::measure(
+            subject, {.name = "15 strokes a second", .strokes = kStrokesATurn, .rhythm = kFifteenASecond});
+        with += latency::measure(subject, {.name = "the same, both overlays",
+                                           .strokes = kStrokesATurn,
+                                           .rhythm = kFifteenASecond,
+                                           .hasOverlays = true});
+    }
+    return {without, with};
+}
+
+/// Measures in all conditions and prints the table; returns the exit status.
 int measureAll(latency::Subject& subject)
 {
     try {
-        std::vector<latency::Figures> all;
-        all.push_back(latency::measure(subject, "idle", kStrokes));
+        const testkit::Process compositor({"picom", "--backend", "xrender", "--config", "/dev/null"});
+        std::vector<latency::Figures> all = compareOverlays(subject);
+        all.push_back(latency::measure(subject, {.name = "idle", .strokes = kStrokes, .rhythm = kTyping}));
         const auto loops = startBusyLoops();
-        all.push_back(latency::measure(subject, "four busy loops", kStrokes));
+        all.push_back(
+            latency::measure(subject, {.name = "four busy loops", .strokes = kStrokes, .rhythm = kTyping}));
         std::fputs(latency::tableOf(all).c_str(), stdout);
         return EXIT_SUCCESS;
     } catch (const std::exception& error) {
@@ -51,11 +78,12 @@ int measureAll(latency::Subject& subject)
 int main(int argc, char** argv)
 {
     setThreadRole(ThreadRole::Main);
-    QCoreApplication application(argc, argv);
+    const QGuiApplication application(argc, argv);
+    platform::linux::chooseRenderer();
     latency::Subject subject;
     std::jthread measuring([&subject] {
         const int status = measureAll(subject);
-        subject.post([status] { QCoreApplication::exit(status); });
+        subject.post([status] { QGuiApplication::exit(status); });
     });
-    return QCoreApplication::exec();
+    return QGuiApplication::exec();
 }
