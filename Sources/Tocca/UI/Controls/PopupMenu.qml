@@ -30,7 +30,7 @@ Item {
         root.chosen(index);
     }
 
-    onOnScreenChanged: if (!onScreen) loader.active = false
+    onOnScreenChanged: if (!onScreen && Window.window) loader.active = false // a window that ends takes the sheet with it
 
     Loader {
         id: loader
