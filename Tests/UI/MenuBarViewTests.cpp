@@ -225,8 +225,14 @@ TEST_F(MenuBarViewTest, ButtonsDoWhatTheySay)
 
     click("import");
     machine.host.files().write("/downloads/Alps/press.wav", "press");
+    key(Qt::Key_Home);
+    settle();
     machine.host.openPanels().answer("/downloads/Alps");
     EXPECT_EQ(text("importMessage"), "Imported 'Alps'!");
+    settle();
+    const QQuickItem& result = *item("importMessage");
+    EXPECT_TRUE(QRectF(QPointF(), window.size()).contains(result.mapRectToScene(result.boundingRect())))
+        << "brought into sight";
 
     click("testInput");
     type("abc");

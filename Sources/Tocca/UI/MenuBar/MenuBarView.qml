@@ -16,6 +16,7 @@ Rectangle {
     implicitHeight: 560
 
     ScrollArea {
+        id: scroll
         objectName: "scrollArea"
         anchors.fill: parent
         contentHeight: column.height
@@ -45,7 +46,12 @@ Rectangle {
                 delegate: PermissionCard { x: column.margin; width: column.width - 2 * x; model: root.model }
             }
             Rule {}
-            SoundPackSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            SoundPackSection {
+                x: column.margin
+                width: column.width - 2 * x
+                model: root.model
+                onImported: result => scroll.reveal(result)
+            }
             Rule {}
             SmartMuteControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
             Rule {}

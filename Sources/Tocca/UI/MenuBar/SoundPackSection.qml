@@ -8,6 +8,9 @@ Section {
 
     required property MenuBarViewModel model
 
+    /// An import has ended, and `result`, which says how, has its place; sent again when the new pack's row moves that.
+    signal imported(result: Item)
+
     title: "STUDIO SOUND PACKS"
     accessory: PlainButton {
         objectName: "import"
@@ -38,7 +41,18 @@ Section {
         }
     }
 
+    Connections {
+        target: root.model
+        function onImportMessageChanged(): void {
+            recently.restart();
+            root.imported(message);
+        }
+    }
+
+    Timer { id: recently; interval: 500 }
+
     Label {
+        id: message
         objectName: "importMessage"
         Accessible.role: Accessible.StaticText
         Accessible.name: text
@@ -50,5 +64,6 @@ Section {
         topPadding: 6
         visible: text !== ""
         wrapMode: Text.Wrap
+        onYChanged: if (recently.running) root.imported(message)
     }
 }
