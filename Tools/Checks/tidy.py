@@ -13,6 +13,7 @@ it is made of are what they were when it last passed; the stamps are in BUILD_DI
 import hashlib
 import json
 import os
+import re
 import shlex
 import subprocess
 import sys
@@ -97,9 +98,10 @@ class Checker:
             [TIDY, f"--config-file={self.configurations[where]}", "--quiet", together, "--", *command,
              "-Wno-unknown-warning-option"], capture_output=True, text=True, cwd=directory)
         together.unlink()
-        if "clang-diagnostic-error" in run.stdout and len(files) > 1:
-            half = len(files) // 2
-            parts = [self.check(where, command, directory, part) for part in (files[:half], files[half:])]
+        clash = re.search(r"^(.*?):\d+:\d+: error: .*\[clang-diagnostic-error\]$", run.stdout, re.MULTILINE)
+        if clash and len(files) > 1:
+            first = files.index(clash[1]) if clash[1] in files[1:] else len(files) // 2
+            parts = [self.check(where, command, directory, part) for part in (files[:first], files[first:])]
             return parts[0][0] + parts[1][0], "\n".join(report for _, report in parts if report)
         noise = "warnings generated", "warning generated", "warnings treated as errors"
         errors = [line for line in run.stderr.splitlines() if not any(word in line for word in noise)]
