@@ -89,7 +89,6 @@ class StrokePath {
 public:
     StrokePath()
     {
-        memory_.files().write("/app/resources/SoundPacks/holy-panda/press.wav", "press");
         memory_.settle(); // lets the capture thread's body make its tap
     }
 
@@ -115,7 +114,12 @@ public:
     [[nodiscard]] const SilentPlayers& players() const noexcept { return players_; }
 
 private:
-    platform::memory::MemoryHost memory_;
+    /// Its disk is not written to any more once the engine has begun to read from it on its own thread.
+    struct Machine : platform::memory::MemoryHost {
+        Machine() { files().write("/app/resources/SoundPacks/holy-panda/press.wav", "press"); }
+    };
+
+    Machine memory_;
     platform::linux::LinuxTimers timers_;
     platform::linux::LinuxMainQueue mainQueue_{timers_};
     platform::linux::LinuxSerialQueues serialQueues_;
