@@ -10,10 +10,12 @@ app_module(tocca_linux_audio
         Platform/Linux/Audio/LinuxAudioDevices.cpp
         Platform/Linux/Audio/LinuxAudioOutput.cpp
         Platform/Linux/Audio/OutputMeter.cpp
+        Platform/Linux/Audio/PipeWireConnection.cpp
         Platform/Linux/Audio/PipeWireDevices.cpp
         Platform/Linux/Audio/PipeWireOutput.cpp
         Platform/Linux/Audio/PipeWireStream.cpp
         Platform/Linux/Audio/PulseDevices.cpp
+        Platform/Linux/Audio/PulseLoop.cpp
         Platform/Linux/Audio/PulseOutput.cpp
         Platform/Linux/Audio/QuantumGovernor.cpp
         Platform/Linux/Audio/SocketWatch.cpp
@@ -26,10 +28,13 @@ app_module(tocca_linux_audio
         Platform/Linux/Audio/LinuxAudioDevices.h
         Platform/Linux/Audio/LinuxAudioOutput.h
         Platform/Linux/Audio/OutputMeter.h
+        Platform/Linux/Audio/PipeWireConnection.h
         Platform/Linux/Audio/PipeWireDevices.h
         Platform/Linux/Audio/PipeWireOutput.h
         Platform/Linux/Audio/PipeWireStream.h
+        Platform/Linux/Audio/ProgressWatch.h
         Platform/Linux/Audio/PulseDevices.h
+        Platform/Linux/Audio/PulseLoop.h
         Platform/Linux/Audio/PulseOutput.h
         Platform/Linux/Audio/QuantumGovernor.h
         Platform/Linux/Audio/ServerOutput.h
@@ -38,5 +43,5 @@ app_module(tocca_linux_audio
     PRIVATE_DEPENDS PkgConfig::PIPEWIRE PkgConfig::PULSE)
 
 # PipeWire's method calls are macros with casts of C.
-set_source_files_properties(Platform/Linux/Audio/PipeWireDevices.cpp Platform/Linux/Audio/PipeWireOutput.cpp
+set_source_files_properties(Platform/Linux/Audio/PipeWireConnection.cpp Platform/Linux/Audio/PipeWireDevices.cpp
     PROPERTIES COMPILE_OPTIONS -Wno-old-style-cast)

@@ -52,17 +52,6 @@ bool isBystander(const spa_dict* properties)
 
 } // namespace
 
-struct PipeWireDevices::Connection {
-    pw_context* context = nullptr;
-    pw_core* core = nullptr;
-    pw_registry* registry = nullptr;
-    spa_hook coreListener{};
-    spa_hook registryListener{};
-    pw_core_events coreEvents{};
-    pw_registry_events registryEvents{};
-    int sync = 0;
-};
-
 /// A recording stream that is asked to tell about itself for as long as this lives.
 class PipeWireDevices::Recorder {
 public:
@@ -102,43 +91,21 @@ private:
 };
 
 PipeWireDevices::PipeWireDevices(ControlLoop& loop, Observer observer)
-    : loop_(loop)
-    , observer_(std::move(observer))
+    : observer_(std::move(observer))
     , retry_(loop, [this] { connect(); })
-    , connection_(std::make_unique<Connection>())
-{
-    pw_core_events& core = connection_->coreEvents;
-    core.version = PW_VERSION_CORE_EVENTS;
-    core.error = [](void* self, std::uint32_t id, int, int, const char*) {
-        if (id == PW_ID_CORE) {
-            static_cast<PipeWireDevices*>(self)->lose();
-        }
-    };
-    core.done = [](void* self, std::uint32_t id, int sequence) {
-        auto* const devices = static_cast<PipeWireDevices*>(self);
-        if (id == PW_ID_CORE && sequence == devices->connection_->sync) {
-            devices->isEnumerated_ = true;
-            devices->tell();
-        }
-    };
-    pw_registry_events& registry = connection_->registryEvents;
-    registry.version = PW_VERSION_REGISTRY_EVENTS;
-    registry.global = [](void* self, std::uint32_t id, std::uint32_t, const char* type, std::uint32_t,
-                         const spa_dict* properties) {
-        static_cast<PipeWireDevices*>(self)->appear(id, type, properties);
-    };
-    registry.global_remove = [](void* self, std::uint32_t id) {
-        static_cast<PipeWireDevices*>(self)->vanish(id);
-    };
-}
+    , connection_([&loop] { return pw_context_new(loop.native(), nullptr, 0); },
+                  {.lost = [this] { lose(); },
+                   .enumerated =
+                       [this] {
+                           isEnumerated_ = true;
+                           tell();
+                       },
+                   .appeared = [this](std::uint32_t id, const char* type,
+                                      const spa_dict* properties) { appear(id, type, properties); },
+                   .vanished = [this](std::uint32_t id) { vanish(id); }})
+{}
 
-PipeWireDevices::~PipeWireDevices()
-{
-    disconnect();
-    if (connection_->context != nullptr) {
-        pw_context_destroy(connection_->context);
-    }
-}
+PipeWireDevices::~PipeWireDevices() = default;
 
 void PipeWireDevices::open()
 {
@@ -147,47 +114,19 @@ void PipeWireDevices::open()
 
 void PipeWireDevices::lookNow()
 {
-    if (connection_->core == nullptr) {
+    if (connection_.core() == nullptr) {
         retry_.once(timing::kSoon);
     }
 }
 
 void PipeWireDevices::connect()
 {
-    disconnect();
-    Connection& connection = *connection_;
-    if (connection.context == nullptr) {
-        connection.context = pw_context_new(loop_.native(), nullptr, 0);
-    }
-    if (connection.context != nullptr) {
-        connection.core =
-            pw_context_connect(connection.context, pw_properties_new(PW_KEY_APP_NAME, "Tocca", nullptr), 0);
-    }
-    if (connection.core == nullptr) {
-        observer_(std::nullopt);
-        retry_.once(timing::kRetry);
-        return;
-    }
-    pw_core_add_listener(connection.core, &connection.coreListener, &connection.coreEvents, this);
-    connection.registry = pw_core_get_registry(connection.core, PW_VERSION_REGISTRY, 0);
-    pw_registry_add_listener(connection.registry, &connection.registryListener, &connection.registryEvents,
-                             this);
-    connection.sync = pw_core_sync(connection.core, PW_ID_CORE, 0);
-}
-
-void PipeWireDevices::disconnect()
-{
-    Connection& connection = *connection_;
     isEnumerated_ = false;
     recorders_.clear();
     graph_.clear();
-    if (connection.registry != nullptr) {
-        spa_hook_remove(&connection.registryListener);
-        pw_proxy_destroy(reinterpret_cast<pw_proxy*>(std::exchange(connection.registry, nullptr)));
-    }
-    if (connection.core != nullptr) {
-        spa_hook_remove(&connection.coreListener);
-        pw_core_disconnect(std::exchange(connection.core, nullptr));
+    if (!connection_.connect(pw_properties_new(PW_KEY_APP_NAME, "Tocca", nullptr))) {
+        observer_(std::nullopt);
+        retry_.once(timing::kRetry);
     }
 }
 
@@ -205,7 +144,7 @@ void PipeWireDevices::appear(std::uint32_t id, const char* type, const spa_dict*
         const NodeKind kind = kindOfNode(textOf(properties, PW_KEY_MEDIA_CLASS));
         graph_.addNode(id, kind, std::string(textOf(properties, PW_KEY_NODE_NAME)));
         if (kind == NodeKind::Recorder) {
-            recorders_[id] = std::make_unique<Recorder>(*this, connection_->registry, id);
+            recorders_[id] = std::make_unique<Recorder>(*this, connection_.registry(), id);
         }
     } else if (std::strcmp(type, PW_TYPE_INTERFACE_Link) == 0) {
         graph_.addLink(id, {.from = numberOf(properties, PW_KEY_LINK_OUTPUT_NODE),

@@ -3,6 +3,7 @@
 #include "Platform/Linux/Audio/CaptureGraph.h"
 #include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/DeviceServer.h"
+#include "Platform/Linux/Audio/PipeWireConnection.h"
 
 #include <cstdint>
 #include <map>
@@ -27,21 +28,18 @@ public:
     void lookNow() override;
 
 private:
-    struct Connection;
     class Recorder;
 
     void connect();
-    void disconnect();
     void lose();
     void appear(std::uint32_t id, const char* type, const spa_dict* properties);
     void vanish(std::uint32_t id);
     void describe(std::uint32_t id, const pw_node_info& info);
     void tell();
 
-    ControlLoop& loop_;
     const Observer observer_;
     ControlTimer retry_;
-    std::unique_ptr<Connection> connection_;
+    PipeWireConnection connection_;
     std::map<std::uint32_t, std::unique_ptr<Recorder>> recorders_;
     CaptureGraph graph_;
     bool isEnumerated_ = false; // everything that was there at first is in the graph

@@ -19,8 +19,6 @@ constexpr int kLargestQuantum = 1024;
 constexpr double kAtOnce = 1e-6; // a timer set to 0 is off
 constexpr double kFirstRetry = 0.25;
 constexpr double kLastRetry = 5.0;
-constexpr double kFirstPatience = 2.0;
-constexpr double kLastPatience = 30.0;
 
 /// Before 1.3.81 only the configuration of this name gives a client's data thread real-time scheduling.
 const char* configurationName()
@@ -64,69 +62,38 @@ bool isSink(const char* type, const spa_dict* properties)
 
 } // namespace
 
-struct PipeWireOutput::Connection {
-    pw_context* context = nullptr;
-    pw_core* core = nullptr;
-    pw_registry* registry = nullptr;
-    spa_hook coreListener{};
-    spa_hook registryListener{};
-    pw_core_events coreEvents{};
-    pw_registry_events registryEvents{};
-    int sync = 0;
-};
-
 PipeWireOutput::PipeWireOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter,
                                Observer observer)
-    : loop_(loop)
-    , source_(source)
+    : source_(source)
     , meter_(meter)
     , observer_(std::move(observer))
     , retry_(loop, [this] { connect(); })
     , governor_(kSmallestQuantum, kLargestQuantum)
-    , connection_(std::make_unique<Connection>())
+    , connection_([&loop] { return makeContext(loop.native()); },
+                  {.lost = [this] { lose(); },
+                   .enumerated =
+                       [this] {
+                           isEnumerated_ = true;
+                           retryDelay_ = kFirstRetry;
+                           settle();
+                       },
+                   .appeared =
+                       [this](std::uint32_t id, const char* type, const spa_dict* properties) {
+                           if (isSink(type, properties)) {
+                               sinks_.insert(id);
+                               settle();
+                           }
+                       },
+                   .vanished =
+                       [this](std::uint32_t id) {
+                           if (sinks_.erase(id) > 0) {
+                               settle();
+                           }
+                       }})
     , retryDelay_(kFirstRetry)
-    , patience_(kFirstPatience)
-{
-    pw_core_events& core = connection_->coreEvents;
-    core.version = PW_VERSION_CORE_EVENTS;
-    core.error = [](void* self, std::uint32_t id, int, int, const char*) {
-        if (id == PW_ID_CORE) {
-            static_cast<PipeWireOutput*>(self)->lose();
-        }
-    };
-    core.done = [](void* self, std::uint32_t id, int sequence) {
-        auto* const output = static_cast<PipeWireOutput*>(self);
-        if (id == PW_ID_CORE && sequence == output->connection_->sync) {
-            output->isEnumerated_ = true;
-            output->retryDelay_ = kFirstRetry;
-            output->settle();
-        }
-    };
-    pw_registry_events& registry = connection_->registryEvents;
-    registry.version = PW_VERSION_REGISTRY_EVENTS;
-    registry.global = [](void* self, std::uint32_t id, std::uint32_t, const char* type, std::uint32_t,
-                         const spa_dict* properties) {
-        auto* const output = static_cast<PipeWireOutput*>(self);
-        if (isSink(type, properties)) {
-            output->sinks_.insert(id);
-            output->settle();
-        }
-    };
-    registry.global_remove = [](void* self, std::uint32_t id) {
-        auto* const output = static_cast<PipeWireOutput*>(self);
-        if (output->sinks_.erase(id) > 0) {
-            output->settle();
-        }
-    };
-}
+{}
 
-PipeWireOutput::~PipeWireOutput()
-{
-    disconnect();
-    if (connection_->context != nullptr) {
-        pw_context_destroy(connection_->context);
-    }
-}
+PipeWireOutput::~PipeWireOutput() = default;
 
 void PipeWireOutput::open()
 {
@@ -135,7 +102,7 @@ void PipeWireOutput::open()
 
 void PipeWireOutput::lookNow()
 {
-    if (connection_->core == nullptr) {
+    if (connection_.core() == nullptr) {
         retryDelay_ = kFirstRetry;
         retry_.once(retryDelay_);
     }
@@ -144,13 +111,14 @@ void PipeWireOutput::lookNow()
 void PipeWireOutput::setAwake(bool isAwake)
 {
     isAwake_ = isAwake;
-    lastProgress_ = monotonicSeconds();
+    const double now = monotonicSeconds();
+    progress_.restart(now);
     if (!stream_) {
         return;
     }
     if (isAwake) {
-        governor_.disturb(lastProgress_);
-    } else if (governor_.rest(lastProgress_)) {
+        governor_.disturb(now);
+    } else if (governor_.rest(now)) {
         stream_->requestQuantum(governor_.quantum());
     }
     stream_->setAwake(isAwake);
@@ -161,12 +129,7 @@ void PipeWireOutput::inspect(double now)
     if (!stream_ || isLost_) {
         return;
     }
-    if (meter_.cycles() != lastCycles_) {
-        lastCycles_ = meter_.cycles();
-        lastProgress_ = now;
-        patience_ = kFirstPatience;
-    } else if (now - lastProgress_ > patience_) {
-        patience_ = std::min(patience_ * 2.0, kLastPatience);
+    if (progress_.hasStalled(meter_.cycles(), now)) {
         lose();
         return;
     }
@@ -181,43 +144,15 @@ void PipeWireOutput::inspect(double now)
 
 void PipeWireOutput::connect()
 {
-    disconnect();
-    Connection& connection = *connection_;
-    if (connection.context == nullptr) {
-        connection.context = makeContext(loop_.native());
-    }
-    if (connection.context != nullptr) {
-        connection.core = pw_context_connect(
-            connection.context,
-            pw_properties_new(PW_KEY_APP_NAME, "Tocca", PW_KEY_APP_ICON_NAME, "tocca", nullptr), 0);
-    }
-    if (connection.core == nullptr) {
-        report(Availability::Absent);
-        retryDelay_ = std::min(retryDelay_ * 2.0, kLastRetry);
-        retry_.once(retryDelay_);
-        return;
-    }
-    pw_core_add_listener(connection.core, &connection.coreListener, &connection.coreEvents, this);
-    connection.registry = pw_core_get_registry(connection.core, PW_VERSION_REGISTRY, 0);
-    pw_registry_add_listener(connection.registry, &connection.registryListener, &connection.registryEvents,
-                             this);
-    connection.sync = pw_core_sync(connection.core, PW_ID_CORE, 0);
-}
-
-void PipeWireOutput::disconnect()
-{
-    Connection& connection = *connection_;
     stream_.reset();
     sinks_.clear();
     isEnumerated_ = false;
     isLost_ = false;
-    if (connection.registry != nullptr) {
-        spa_hook_remove(&connection.registryListener);
-        pw_proxy_destroy(reinterpret_cast<pw_proxy*>(std::exchange(connection.registry, nullptr)));
-    }
-    if (connection.core != nullptr) {
-        spa_hook_remove(&connection.coreListener);
-        pw_core_disconnect(std::exchange(connection.core, nullptr));
+    if (!connection_.connect(
+            pw_properties_new(PW_KEY_APP_NAME, "Tocca", PW_KEY_APP_ICON_NAME, "tocca", nullptr))) {
+        report(Availability::Absent);
+        retryDelay_ = std::min(retryDelay_ * 2.0, kLastRetry);
+        retry_.once(retryDelay_);
     }
 }
 
@@ -246,9 +181,10 @@ void PipeWireOutput::settle()
 void PipeWireOutput::openStream()
 {
     stream_.reset();
-    stream_ = std::make_unique<PipeWireStream>(connection_->core, source_, meter_, [this] { lose(); });
-    lastProgress_ = monotonicSeconds();
-    governor_.disturb(lastProgress_);
+    stream_ = std::make_unique<PipeWireStream>(connection_.core(), source_, meter_, [this] { lose(); });
+    const double now = monotonicSeconds();
+    progress_.restart(now);
+    governor_.disturb(now);
     if (!stream_->connect(governor_.quantum(), isAwake_)) {
         lose();
     }

@@ -2,7 +2,9 @@
 
 #include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/OutputMeter.h"
+#include "Platform/Linux/Audio/PipeWireConnection.h"
 #include "Platform/Linux/Audio/PipeWireStream.h"
+#include "Platform/Linux/Audio/ProgressWatch.h"
 #include "Platform/Linux/Audio/QuantumGovernor.h"
 #include "Platform/Linux/Audio/ServerOutput.h"
 
@@ -27,22 +29,19 @@ public:
     void inspect(double now) override;
 
 private:
-    struct Connection;
-
     void connect();
-    void disconnect();
     void lose();
     void settle();
     void openStream();
     void report(Availability availability);
 
-    ControlLoop& loop_;
     player::RenderSource& source_;
     OutputMeter& meter_;
     const Observer observer_;
     ControlTimer retry_;
     QuantumGovernor governor_;
-    std::unique_ptr<Connection> connection_;
+    ProgressWatch progress_;
+    PipeWireConnection connection_;
     std::unique_ptr<PipeWireStream> stream_;
     std::set<std::uint32_t> sinks_;
     Availability availability_ = Availability::Unknown;
@@ -50,10 +49,7 @@ private:
     bool isLost_ = false;       // waiting to be taken down
     bool isAwake_ = true;
     double retryDelay_;
-    double patience_;
     double triedRate_ = 0.0; // the last graph rate for which the stream was made again
-    double lastProgress_ = 0.0;
-    std::uint64_t lastCycles_ = 0;
 };
 
 } // namespace tocca::platform::linux

@@ -11,13 +11,6 @@ namespace tocca::platform::linux {
 
 namespace {
 
-void forget(pa_operation* operation)
-{
-    if (operation != nullptr) {
-        pa_operation_unref(operation);
-    }
-}
-
 bool isOwn(const pa_source_output_info& recording)
 {
     const char* const process = pa_proplist_gets(recording.proplist, PA_PROP_APPLICATION_PROCESS_ID);
@@ -31,39 +24,16 @@ bool isMeter(const pa_source_output_info& recording)
 
 } // namespace
 
-/// Holds the client library's thread off for a scope.
-class PulseDevices::Lock {
-public:
-    explicit Lock(pa_threaded_mainloop* loop)
-        : loop_(loop)
-    {
-        pa_threaded_mainloop_lock(loop_);
-    }
-
-    ~Lock() { pa_threaded_mainloop_unlock(loop_); }
-
-    Lock(const Lock&) = delete;
-    Lock& operator=(const Lock&) = delete;
-
-private:
-    pa_threaded_mainloop* const loop_;
-};
-
 PulseDevices::PulseDevices(ControlLoop& loop, Observer observer)
     : observer_(std::move(observer))
     , news_(loop, [this] { settle(); })
     , retry_(loop, [this] { connect(); })
-    , loop_(pa_threaded_mainloop_new())
-{
-    pa_threaded_mainloop_set_name(loop_, "tocca-devices");
-    pa_threaded_mainloop_start(loop_);
-}
+    , loop_("tocca-devices")
+{}
 
 PulseDevices::~PulseDevices()
 {
     disconnect();
-    pa_threaded_mainloop_stop(loop_);
-    pa_threaded_mainloop_free(loop_);
 }
 
 void PulseDevices::open()
@@ -81,9 +51,9 @@ void PulseDevices::lookNow()
 void PulseDevices::connect()
 {
     disconnect();
-    const Lock lock(loop_);
+    const PulseLoop::Lock lock(loop_);
     isAsking_ = false;
-    context_ = pa_context_new(pa_threaded_mainloop_get_api(loop_), "Tocca");
+    context_ = pa_context_new(loop_.api(), "Tocca");
     pa_context_set_state_callback(
         context_, [](pa_context*, void* self) { static_cast<PulseDevices*>(self)->stateChanged(); }, this);
     if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
@@ -93,13 +63,8 @@ void PulseDevices::connect()
 
 void PulseDevices::disconnect()
 {
-    const Lock lock(loop_);
-    if (context_ != nullptr) {
-        pa_context_set_state_callback(context_, nullptr, nullptr);
-        pa_context_set_subscribe_callback(context_, nullptr, nullptr);
-        pa_context_disconnect(context_);
-        pa_context_unref(std::exchange(context_, nullptr));
-    }
+    const PulseLoop::Lock lock(loop_);
+    endConnection(context_);
 }
 
 void PulseDevices::settle()

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/DeviceServer.h"
+#include "Platform/Linux/Audio/PulseLoop.h"
 
 #include <cstdint>
 #include <map>
@@ -13,7 +14,6 @@
 struct pa_context;
 struct pa_source_info;
 struct pa_source_output_info;
-struct pa_threaded_mainloop;
 
 namespace tocca::platform::linux {
 
@@ -30,8 +30,6 @@ public:
     void lookNow() override;
 
 private:
-    class Lock;
-
     void connect();
     void disconnect();
     void settle();
@@ -47,7 +45,7 @@ private:
     const Observer observer_;
     ControlEvent news_;
     ControlTimer retry_;
-    pa_threaded_mainloop* loop_;
+    PulseLoop loop_;
     pa_context* context_ = nullptr;
 
     std::map<std::uint32_t, std::string> sources_; // client library's thread, as are the next three

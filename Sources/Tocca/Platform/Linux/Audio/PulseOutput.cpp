@@ -15,8 +15,6 @@ constexpr std::uint32_t kFrameBytes = 2 * sizeof(float);
 constexpr double kAtOnce = 1e-6; // a timer set to 0 is off
 constexpr double kFirstRetry = 0.25;
 constexpr double kLastRetry = 5.0;
-constexpr double kFirstPatience = 2.0;
-constexpr double kLastPatience = 30.0;
 constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
 
 pa_buffer_attr bufferOf(int frames)
@@ -26,13 +24,6 @@ pa_buffer_attr bufferOf(int frames)
             .prebuf = 0,
             .minreq = kServersChoice,
             .fragsize = kServersChoice};
-}
-
-void forget(pa_operation* operation)
-{
-    if (operation != nullptr) {
-        pa_operation_unref(operation);
-    }
 }
 
 pa_proplist* applicationProperties()
@@ -46,24 +37,6 @@ pa_proplist* applicationProperties()
 
 } // namespace
 
-/// Holds the client library's thread off for a scope.
-class PulseOutput::Lock {
-public:
-    explicit Lock(pa_threaded_mainloop* loop)
-        : loop_(loop)
-    {
-        pa_threaded_mainloop_lock(loop_);
-    }
-
-    ~Lock() { pa_threaded_mainloop_unlock(loop_); }
-
-    Lock(const Lock&) = delete;
-    Lock& operator=(const Lock&) = delete;
-
-private:
-    pa_threaded_mainloop* const loop_;
-};
-
 PulseOutput::PulseOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter,
                          Observer observer)
     : source_(source)
@@ -72,19 +45,13 @@ PulseOutput::PulseOutput(ControlLoop& loop, player::RenderSource& source, Output
     , news_(loop, [this] { settle(); })
     , retry_(loop, [this] { connect(); })
     , governor_(kSmallestBuffer, kLargestBuffer)
-    , loop_(pa_threaded_mainloop_new())
+    , loop_("tocca-pulse")
     , retryDelay_(kFirstRetry)
-    , patience_(kFirstPatience)
-{
-    pa_threaded_mainloop_set_name(loop_, "tocca-pulse");
-    pa_threaded_mainloop_start(loop_);
-}
+{}
 
 PulseOutput::~PulseOutput()
 {
     disconnect();
-    pa_threaded_mainloop_stop(loop_);
-    pa_threaded_mainloop_free(loop_);
 }
 
 void PulseOutput::open()
@@ -103,11 +70,12 @@ void PulseOutput::lookNow()
 void PulseOutput::setAwake(bool isAwake)
 {
     isAwake_ = isAwake;
-    lastProgress_ = monotonicSeconds();
+    const double now = monotonicSeconds();
+    progress_.restart(now);
     if (isAwake) {
-        governor_.disturb(lastProgress_);
+        governor_.disturb(now);
     }
-    const Lock lock(loop_);
+    const PulseLoop::Lock lock(loop_);
     if (stream_ != nullptr && pa_stream_get_state(stream_) == PA_STREAM_READY) {
         forget(pa_stream_cork(stream_, isAwake ? 0 : 1, nullptr, nullptr));
     }
@@ -118,17 +86,12 @@ void PulseOutput::inspect(double now)
     if (stream_ == nullptr) {
         return;
     }
-    if (meter_.cycles() != lastCycles_) {
-        lastCycles_ = meter_.cycles();
-        lastProgress_ = now;
-        patience_ = kFirstPatience;
-    } else if (now - lastProgress_ > patience_) {
-        patience_ = std::min(patience_ * 2.0, kLastPatience);
+    if (progress_.hasStalled(meter_.cycles(), now)) {
         lose();
         return;
     }
     if (governor_.observe(meter_.dropOuts(), now)) {
-        const Lock lock(loop_);
+        const PulseLoop::Lock lock(loop_);
         const pa_buffer_attr buffer = bufferOf(governor_.quantum());
         forget(pa_stream_set_buffer_attr(stream_, &buffer, nullptr, nullptr));
     }
@@ -137,9 +100,9 @@ void PulseOutput::inspect(double now)
 void PulseOutput::connect()
 {
     disconnect();
-    const Lock lock(loop_);
+    const PulseLoop::Lock lock(loop_);
     pa_proplist* const properties = applicationProperties();
-    context_ = pa_context_new_with_proplist(pa_threaded_mainloop_get_api(loop_), "Tocca", properties);
+    context_ = pa_context_new_with_proplist(loop_.api(), "Tocca", properties);
     pa_proplist_free(properties);
     pa_context_set_state_callback(
         context_,
@@ -162,7 +125,7 @@ void PulseOutput::connect()
 
 void PulseOutput::disconnect()
 {
-    const Lock lock(loop_);
+    const PulseLoop::Lock lock(loop_);
     server_.store(Availability::Unknown);
     if (stream_ != nullptr) {
         pa_stream_set_write_callback(stream_, nullptr, nullptr);
@@ -171,12 +134,7 @@ void PulseOutput::disconnect()
         pa_stream_disconnect(stream_);
         pa_stream_unref(std::exchange(stream_, nullptr));
     }
-    if (context_ != nullptr) {
-        pa_context_set_state_callback(context_, nullptr, nullptr);
-        pa_context_set_subscribe_callback(context_, nullptr, nullptr);
-        pa_context_disconnect(context_);
-        pa_context_unref(std::exchange(context_, nullptr));
-    }
+    endConnection(context_);
 }
 
 void PulseOutput::lose()
@@ -244,7 +202,7 @@ void PulseOutput::countSinks()
 
 void PulseOutput::openStream()
 {
-    const Lock lock(loop_);
+    const PulseLoop::Lock lock(loop_);
     pa_sample_spec format{.format = PA_SAMPLE_FLOAT32NE, .rate = 48000, .channels = 2};
     stream_ = pa_stream_new(context_, "Keyboard sound", &format, nullptr);
     pa_stream_set_state_callback(
@@ -260,8 +218,9 @@ void PulseOutput::openStream()
     if (!isAwake_) {
         flags |= PA_STREAM_START_CORKED;
     }
-    lastProgress_ = monotonicSeconds();
-    governor_.disturb(lastProgress_);
+    const double now = monotonicSeconds();
+    progress_.restart(now);
+    governor_.disturb(now);
     const pa_buffer_attr buffer = bufferOf(governor_.quantum());
     pa_stream_connect_playback(stream_, nullptr, &buffer, static_cast<pa_stream_flags_t>(flags), nullptr,
                                nullptr);

@@ -3,6 +3,8 @@
 #include "Platform/Linux/Audio/BlockClock.h"
 #include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/OutputMeter.h"
+#include "Platform/Linux/Audio/ProgressWatch.h"
+#include "Platform/Linux/Audio/PulseLoop.h"
 #include "Platform/Linux/Audio/QuantumGovernor.h"
 #include "Platform/Linux/Audio/ServerOutput.h"
 #include "Player/RenderSource.h"
@@ -14,7 +16,6 @@
 
 struct pa_context;
 struct pa_stream;
-struct pa_threaded_mainloop;
 
 namespace tocca::platform::linux {
 
@@ -32,8 +33,6 @@ public:
     void inspect(double now) override;
 
 private:
-    class Lock;
-
     void connect();
     void disconnect();
     void lose();
@@ -52,7 +51,8 @@ private:
     ControlTimer retry_;
     QuantumGovernor governor_;
     BlockClock clock_; // client library's thread
-    pa_threaded_mainloop* loop_ = nullptr;
+    ProgressWatch progress_;
+    PulseLoop loop_;
     pa_context* context_ = nullptr;
     pa_stream* stream_ = nullptr;
     int countedSinks_ = 0;                                    // client library's thread
@@ -60,9 +60,6 @@ private:
     Availability availability_ = Availability::Unknown;
     bool isAwake_ = true;
     double retryDelay_;
-    double patience_;
-    double lastProgress_ = 0.0;
-    std::uint64_t lastCycles_ = 0;
 };
 
 } // namespace tocca::platform::linux
