@@ -45,7 +45,6 @@ private:
     const Observer observer_;
     ControlEvent news_;
     ControlTimer retry_;
-    PulseLoop loop_;
     pa_context* context_ = nullptr;
 
     std::map<std::uint32_t, std::string> sources_; // client library's thread, as are the next three
@@ -55,6 +54,8 @@ private:
 
     std::mutex mutex_;
     std::optional<Devices> found_; // client library's thread -> control, under mutex_
+
+    PulseLoop loop_; // the last, as its thread uses what stands above
 };
 
 } // namespace tocca::platform::linux

@@ -45,8 +45,8 @@ PulseOutput::PulseOutput(ControlLoop& loop, player::RenderSource& source, Output
     , news_(loop, [this] { settle(); })
     , retry_(loop, [this] { connect(); })
     , governor_(kSmallestBuffer, kLargestBuffer)
-    , loop_("tocca-pulse")
     , retryDelay_(kFirstRetry)
+    , loop_("tocca-pulse")
 {}
 
 PulseOutput::~PulseOutput()

@@ -52,7 +52,6 @@ private:
     QuantumGovernor governor_;
     BlockClock clock_; // client library's thread
     ProgressWatch progress_;
-    PulseLoop loop_;
     pa_context* context_ = nullptr;
     pa_stream* stream_ = nullptr;
     int countedSinks_ = 0;                                    // client library's thread
@@ -60,6 +59,7 @@ private:
     Availability availability_ = Availability::Unknown;
     bool isAwake_ = true;
     double retryDelay_;
+    PulseLoop loop_; // the last, as its thread uses what stands above
 };
 
 } // namespace tocca::platform::linux
