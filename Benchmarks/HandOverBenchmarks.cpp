@@ -1,7 +1,7 @@
-#include "Platform/Linux/System/LinuxMainQueue.h"
-#include "Platform/Linux/System/LinuxSerialQueues.h"
-#include "Platform/Linux/System/LinuxTimers.h"
-#include "Platform/Linux/System/Scheduling.h"
+#include "Platform/Linux/System/Threads/LinuxMainQueue.h"
+#include "Platform/Linux/System/Threads/LinuxSerialQueues.h"
+#include "Platform/Linux/System/Threads/LinuxTimers.h"
+#include "Platform/Linux/System/Threads/Scheduling.h"
 
 #include <benchmark/benchmark.h>
 

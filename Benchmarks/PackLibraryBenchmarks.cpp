@@ -1,9 +1,9 @@
 #include "Audio/PackImporter.h"
 #include "Audio/PackLibrary.h"
 #include "Audio/SoundPackLoader.h"
-#include "Linux/TemporaryDirectory.h"
-#include "Platform/Linux/System/LinuxFileStore.h"
-#include "Platform/Linux/System/LinuxFiles.h"
+#include "Linux/System/TemporaryDirectory.h"
+#include "Platform/Linux/System/Files/LinuxFileStore.h"
+#include "Platform/Linux/System/Files/LinuxFiles.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <benchmark/benchmark.h>

@@ -1,7 +1,7 @@
 #include "Audio/SoundPackLoader.h"
-#include "Platform/Linux/System/LinuxDirectories.h"
-#include "Platform/Linux/System/LinuxFiles.h"
-#include "Platform/Linux/System/Scheduling.h"
+#include "Platform/Linux/System/Files/LinuxDirectories.h"
+#include "Platform/Linux/System/Files/LinuxFiles.h"
+#include "Platform/Linux/System/Threads/Scheduling.h"
 #include "TestKit/StrokePath.h"
 
 #include <benchmark/benchmark.h>

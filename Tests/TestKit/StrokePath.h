@@ -5,9 +5,9 @@
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Host.h"
 #include "Platform/Linux/System/LinuxClock.h"
-#include "Platform/Linux/System/LinuxMainQueue.h"
-#include "Platform/Linux/System/LinuxSerialQueues.h"
-#include "Platform/Linux/System/LinuxTimers.h"
+#include "Platform/Linux/System/Threads/LinuxMainQueue.h"
+#include "Platform/Linux/System/Threads/LinuxSerialQueues.h"
+#include "Platform/Linux/System/Threads/LinuxTimers.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <atomic>

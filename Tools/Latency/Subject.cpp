@@ -1,6 +1,6 @@
 #include "Subject.h"
 
-#include "Platform/Linux/Toolkit/QuickView.h"
+#include "Platform/Linux/Qt/Windows/QuickView.h"
 #include "UI/NotchHUD/NotchHUDViewModel.h"
 #include "UI/Underglow/SpatialUnderglowViewModel.h"
 

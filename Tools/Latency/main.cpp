@@ -1,5 +1,5 @@
 #include "Measurement.h"
-#include "Platform/Linux/Toolkit/RendererChoice.h"
+#include "Platform/Linux/Qt/RendererChoice.h"
 #include "Subject.h"
 #include "Support/ThreadRole.h"
 #include "TestKit/Process.h"

@@ -1,4 +1,4 @@
-#include "Platform/Linux/Audio/ActivityGate.h"
+#include "Platform/Linux/Audio/PipeWire/ActivityGate.h"
 
 #include "Platform/Linux/Audio/OutputMeter.h"
 

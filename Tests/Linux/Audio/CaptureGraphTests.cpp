@@ -1,4 +1,4 @@
-#include "Platform/Linux/Audio/CaptureGraph.h"
+#include "Platform/Linux/Audio/PipeWire/CaptureGraph.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Platform/Linux/Audio/QuantumGovernor.h"
+#include "Platform/Linux/Audio/PipeWire/QuantumGovernor.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "Linux/X11/Listener.h"
 #include "Linux/X11/XServer.h"
+#include "Platform/Linux/System/SecureInput.h"
 #include "Platform/Linux/X11/SecretPrompts.h"
-#include "Platform/Linux/X11/SecureInput.h"
 #include "TestKit/XTestKeyboard.h"
 #include "TestKit/XWindow.h"
 

@@ -1,6 +1,6 @@
-#include "Platform/Linux/X11/KeyboardState.h"
+#include "Platform/Linux/X11/Input/KeyboardState.h"
 
-#include "Platform/Linux/X11/KeyMap.h"
+#include "Platform/Linux/Keys/KeyMap.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Platform/Linux/System/LinuxClock.h"
-#include "Platform/Linux/System/LinuxThreads.h"
-#include "Platform/Linux/X11/XInputEventTaps.h"
+#include "Platform/Linux/System/Threads/LinuxThreads.h"
+#include "Platform/Linux/X11/Input/XInputEventTaps.h"
 
 #include <array>
 #include <atomic>

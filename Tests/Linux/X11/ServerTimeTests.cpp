@@ -1,4 +1,4 @@
-#include "Platform/Linux/X11/ServerTime.h"
+#include "Platform/Linux/X11/Input/ServerTime.h"
 
 #include <gtest/gtest.h>
 

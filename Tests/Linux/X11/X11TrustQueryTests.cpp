@@ -1,6 +1,6 @@
-#include "Linux/TemporaryDirectory.h"
+#include "Linux/System/TemporaryDirectory.h"
 #include "Linux/X11/XServer.h"
-#include "Platform/Linux/X11/X11TrustQuery.h"
+#include "Platform/Linux/X11/Input/X11TrustQuery.h"
 #include "Platform/StandardOutput.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "Platform/Linux/LinuxHost.h"
 
-#include "Platform/Linux/Toolkit/RealtimeKit.h"
+#include "Platform/Linux/Freedesktop/RealtimeKit.h"
 
 namespace tocca::platform::linux {
 

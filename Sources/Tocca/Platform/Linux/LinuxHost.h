@@ -1,37 +1,37 @@
 #pragma once
 
 #include "Platform/Host.h"
-#include "Platform/Linux/Applications/LinuxLoginItem.h"
 #include "Platform/Linux/Audio/LinuxAudioDevices.h"
+#include "Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h"
+#include "Platform/Linux/Freedesktop/LinuxWorkspace.h"
+#include "Platform/Linux/Freedesktop/SessionLock.h"
+#include "Platform/Linux/Qt/LinuxApplication.h"
+#include "Platform/Linux/Qt/LinuxLocalMonitors.h"
+#include "Platform/Linux/Qt/LinuxScreens.h"
+#include "Platform/Linux/Qt/LocalKeys.h"
+#include "Platform/Linux/Qt/Menu/LinuxMainMenu.h"
+#include "Platform/Linux/Qt/QtLoop.h"
+#include "Platform/Linux/Qt/Windows/AboutWindow.h"
+#include "Platform/Linux/Qt/Windows/LinuxOpenPanels.h"
+#include "Platform/Linux/Qt/Windows/LinuxPanels.h"
+#include "Platform/Linux/Qt/Windows/LinuxPopovers.h"
+#include "Platform/Linux/Qt/Windows/LinuxWindows.h"
+#include "Platform/Linux/System/Files/LinuxDirectories.h"
+#include "Platform/Linux/System/Files/LinuxFileStore.h"
+#include "Platform/Linux/System/Files/LinuxFiles.h"
+#include "Platform/Linux/System/Files/LinuxUserDefaults.h"
 #include "Platform/Linux/System/LinuxClock.h"
-#include "Platform/Linux/System/LinuxDirectories.h"
-#include "Platform/Linux/System/LinuxFileStore.h"
-#include "Platform/Linux/System/LinuxFiles.h"
 #include "Platform/Linux/System/LinuxHaptics.h"
-#include "Platform/Linux/System/LinuxLocalMonitors.h"
-#include "Platform/Linux/System/LinuxMainQueue.h"
 #include "Platform/Linux/System/LinuxRandom.h"
-#include "Platform/Linux/System/LinuxSerialQueues.h"
 #include "Platform/Linux/System/LinuxStandardOutput.h"
-#include "Platform/Linux/System/LinuxThreads.h"
-#include "Platform/Linux/System/LinuxTimers.h"
-#include "Platform/Linux/System/LinuxUserDefaults.h"
-#include "Platform/Linux/Toolkit/AboutWindow.h"
-#include "Platform/Linux/Toolkit/LinuxApplication.h"
-#include "Platform/Linux/Toolkit/LinuxMainMenu.h"
-#include "Platform/Linux/Toolkit/LinuxOpenPanels.h"
-#include "Platform/Linux/Toolkit/LinuxPanels.h"
-#include "Platform/Linux/Toolkit/LinuxPopovers.h"
-#include "Platform/Linux/Toolkit/LinuxScreens.h"
-#include "Platform/Linux/Toolkit/LinuxStatusBar.h"
-#include "Platform/Linux/Toolkit/LinuxWindows.h"
-#include "Platform/Linux/Toolkit/LinuxWorkspace.h"
-#include "Platform/Linux/Toolkit/LocalKeys.h"
-#include "Platform/Linux/Toolkit/SessionLock.h"
-#include "Platform/Linux/Toolkit/ToolkitLoop.h"
-#include "Platform/Linux/X11/SecureInput.h"
-#include "Platform/Linux/X11/X11TrustQuery.h"
-#include "Platform/Linux/X11/XInputEventTaps.h"
+#include "Platform/Linux/System/SecureInput.h"
+#include "Platform/Linux/System/Threads/LinuxMainQueue.h"
+#include "Platform/Linux/System/Threads/LinuxSerialQueues.h"
+#include "Platform/Linux/System/Threads/LinuxThreads.h"
+#include "Platform/Linux/System/Threads/LinuxTimers.h"
+#include "Platform/Linux/Tray/LinuxStatusBar.h"
+#include "Platform/Linux/X11/Input/X11TrustQuery.h"
+#include "Platform/Linux/X11/Input/XInputEventTaps.h"
 
 #include <memory>
 
@@ -65,7 +65,7 @@ private:
 
     LinuxTimers timers_;
     LinuxMainQueue mainQueue_{timers_};
-    ToolkitLoop loop_{mainQueue_, timers_};
+    QtLoop loop_{mainQueue_, timers_};
     LinuxSerialQueues serialQueues_{appeal()};
     LinuxThreads threads_{appeal()};
     LinuxClock clock_;

@@ -1,59 +1,61 @@
 # What the kernel and the C library alone provide; builds without any desktop library.
 app_module(tocca_linux_system
     SOURCES
-        Platform/Linux/Applications/DesktopEntries.cpp
-        Platform/Linux/Applications/DesktopEntry.cpp
-        Platform/Linux/Applications/KnownApplications.cpp
-        Platform/Linux/Applications/LinuxLoginItem.cpp
-        Platform/Linux/Applications/WindowOwner.cpp
-        Platform/Linux/System/Doorbell.cpp
-        Platform/Linux/System/FileCopy.cpp
+        Platform/Linux/Freedesktop/Applications/DesktopEntries.cpp
+        Platform/Linux/Freedesktop/Applications/DesktopEntry.cpp
+        Platform/Linux/Freedesktop/Applications/KnownApplications.cpp
+        Platform/Linux/Freedesktop/Applications/LinuxLoginItem.cpp
+        Platform/Linux/Freedesktop/Applications/WindowOwner.cpp
         Platform/Linux/System/FileDescriptor.cpp
-        Platform/Linux/System/FileError.cpp
-        Platform/Linux/System/FileReplacement.cpp
         Platform/Linux/System/LinuxClock.cpp
-        Platform/Linux/System/LinuxDirectories.cpp
-        Platform/Linux/System/LinuxFileStore.cpp
-        Platform/Linux/System/LinuxFiles.cpp
-        Platform/Linux/System/LinuxLocalMonitors.cpp
-        Platform/Linux/System/LinuxMainQueue.cpp
         Platform/Linux/System/LinuxRandom.cpp
-        Platform/Linux/System/LinuxSerialQueues.cpp
         Platform/Linux/System/LinuxStandardOutput.cpp
-        Platform/Linux/System/LinuxThreads.cpp
-        Platform/Linux/System/LinuxTimers.cpp
-        Platform/Linux/System/LinuxUserDefaults.cpp
         Platform/Linux/System/ProcessNames.cpp
-        Platform/Linux/System/RunLoop.cpp
-        Platform/Linux/System/Scheduling.cpp
-        Platform/Linux/System/WakeDescriptor.cpp
+        Platform/Linux/System/WaylandSession.cpp
+        Platform/Linux/System/Files/FileCopy.cpp
+        Platform/Linux/System/Files/FileError.cpp
+        Platform/Linux/System/Files/FileReplacement.cpp
+        Platform/Linux/System/Files/LinuxDirectories.cpp
+        Platform/Linux/System/Files/LinuxFileStore.cpp
+        Platform/Linux/System/Files/LinuxFiles.cpp
+        Platform/Linux/System/Files/LinuxUserDefaults.cpp
+        Platform/Linux/System/Threads/Doorbell.cpp
+        Platform/Linux/System/Threads/LinuxMainQueue.cpp
+        Platform/Linux/System/Threads/LinuxSerialQueues.cpp
+        Platform/Linux/System/Threads/LinuxThreads.cpp
+        Platform/Linux/System/Threads/LinuxTimers.cpp
+        Platform/Linux/System/Threads/RunLoop.cpp
+        Platform/Linux/System/Threads/Scheduling.cpp
+        Platform/Linux/System/Threads/WakeDescriptor.cpp
     HEADERS
-        Platform/Linux/Applications/DesktopEntries.h
-        Platform/Linux/Applications/DesktopEntry.h
-        Platform/Linux/Applications/KnownApplications.h
-        Platform/Linux/Applications/LinuxLoginItem.h
-        Platform/Linux/Applications/WindowOwner.h
-        Platform/Linux/System/Doorbell.h
-        Platform/Linux/System/FileCopy.h
+        Platform/Linux/Freedesktop/Applications/DesktopEntries.h
+        Platform/Linux/Freedesktop/Applications/DesktopEntry.h
+        Platform/Linux/Freedesktop/Applications/KnownApplications.h
+        Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h
+        Platform/Linux/Freedesktop/Applications/WindowOwner.h
         Platform/Linux/System/FileDescriptor.h
-        Platform/Linux/System/FileError.h
-        Platform/Linux/System/FileReplacement.h
         Platform/Linux/System/LinuxClock.h
-        Platform/Linux/System/LinuxDirectories.h
-        Platform/Linux/System/LinuxFileStore.h
-        Platform/Linux/System/LinuxFiles.h
         Platform/Linux/System/LinuxHaptics.h
-        Platform/Linux/System/LinuxLocalMonitors.h
-        Platform/Linux/System/LinuxMainQueue.h
         Platform/Linux/System/LinuxRandom.h
-        Platform/Linux/System/LinuxSerialQueues.h
         Platform/Linux/System/LinuxStandardOutput.h
-        Platform/Linux/System/LinuxThreads.h
-        Platform/Linux/System/LinuxTimers.h
-        Platform/Linux/System/LinuxUserDefaults.h
         Platform/Linux/System/LowerCase.h
         Platform/Linux/System/ProcessNames.h
-        Platform/Linux/System/RunLoop.h
-        Platform/Linux/System/Scheduling.h
-        Platform/Linux/System/WakeDescriptor.h
+        Platform/Linux/System/SecureInput.h
+        Platform/Linux/System/SecureInputReasons.h
+        Platform/Linux/System/WaylandSession.h
+        Platform/Linux/System/Files/FileCopy.h
+        Platform/Linux/System/Files/FileError.h
+        Platform/Linux/System/Files/FileReplacement.h
+        Platform/Linux/System/Files/LinuxDirectories.h
+        Platform/Linux/System/Files/LinuxFileStore.h
+        Platform/Linux/System/Files/LinuxFiles.h
+        Platform/Linux/System/Files/LinuxUserDefaults.h
+        Platform/Linux/System/Threads/Doorbell.h
+        Platform/Linux/System/Threads/LinuxMainQueue.h
+        Platform/Linux/System/Threads/LinuxSerialQueues.h
+        Platform/Linux/System/Threads/LinuxThreads.h
+        Platform/Linux/System/Threads/LinuxTimers.h
+        Platform/Linux/System/Threads/RunLoop.h
+        Platform/Linux/System/Threads/Scheduling.h
+        Platform/Linux/System/Threads/WakeDescriptor.h
     DEPENDS tocca_platform)

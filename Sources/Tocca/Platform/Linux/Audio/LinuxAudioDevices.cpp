@@ -1,7 +1,7 @@
 #include "Platform/Linux/Audio/LinuxAudioDevices.h"
 
-#include "Platform/Linux/Audio/PipeWireDevices.h"
-#include "Platform/Linux/Audio/PulseDevices.h"
+#include "Platform/Linux/Audio/PipeWire/PipeWireDevices.h"
+#include "Platform/Linux/Audio/PulseAudio/PulseDevices.h"
 
 namespace tocca::platform::linux {
 

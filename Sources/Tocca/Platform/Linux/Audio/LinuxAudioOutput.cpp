@@ -1,8 +1,8 @@
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 
-#include "Platform/Linux/Audio/PipeWireOutput.h"
-#include "Platform/Linux/Audio/PulseOutput.h"
-#include "Platform/Linux/System/Scheduling.h"
+#include "Platform/Linux/Audio/PipeWire/PipeWireOutput.h"
+#include "Platform/Linux/Audio/PulseAudio/PulseOutput.h"
+#include "Platform/Linux/System/Threads/Scheduling.h"
 
 #include <utility>
 

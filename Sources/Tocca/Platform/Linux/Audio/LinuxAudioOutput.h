@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Platform/Linux/Audio/ActivityGate.h"
 #include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/OutputMeter.h"
+#include "Platform/Linux/Audio/PipeWire/ActivityGate.h"
 #include "Platform/Linux/Audio/ServerOutput.h"
 #include "Platform/Linux/Audio/SocketWatch.h"
-#include "Platform/Linux/System/Scheduling.h"
+#include "Platform/Linux/System/Threads/Scheduling.h"
 #include "Platform/StandardOutput.h"
 #include "Player/AudioOutput.h"
 

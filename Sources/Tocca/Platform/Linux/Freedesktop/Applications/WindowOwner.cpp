@@ -1,0 +1,60 @@
+#include "Platform/Linux/Freedesktop/Applications/WindowOwner.h"
+
+#include "Platform/Linux/Freedesktop/Applications/KnownApplications.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+std::optional<InstalledApplication> installed(const WindowOwner& owner, DesktopEntries& entries)
+{
+    for (const std::string& id : owner.applicationIds) {
+        if (auto application = entries.byId(id)) {
+            return application;
+        }
+    }
+    for (const std::string& windowClass : owner.windowClasses) {
+        if (auto application = entries.byWindowClass(windowClass)) {
+            return application;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<RunningApplication> applicationOf(const WindowOwner& owner, DesktopEntries& entries)
+{
+    const auto application = installed(owner, entries);
+    std::vector<std::string> names = owner.applicationIds;
+    if (application) {
+        names.push_back(application->id);
+    }
+    // The class is what people know; the instance is often a detail of one window.
+    names.insert(names.end(), owner.windowClasses.rbegin(), owner.windowClasses.rend());
+    std::erase(names, "");
+    if (names.empty()) {
+        return std::nullopt;
+    }
+    RunningApplication running{.bundleIdentifier = application ? application->id : names.front(),
+                               .localizedName = std::nullopt};
+    names.push_back(owner.executable);
+    for (const std::string& name : names) {
+        if (auto identifier = knownApplication(name)) {
+            running.bundleIdentifier = std::move(identifier);
+            break;
+        }
+    }
+    if (application) {
+        running.localizedName = entries.nameOf(*application);
+    }
+    if (!running.localizedName && !owner.windowClasses.empty() && !owner.windowClasses.back().empty()) {
+        running.localizedName = owner.windowClasses.back();
+    }
+    return running;
+}
+
+} // namespace tocca::platform::linux

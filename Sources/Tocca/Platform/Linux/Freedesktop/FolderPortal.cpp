@@ -1,0 +1,71 @@
+#include "Platform/Linux/Freedesktop/FolderPortal.h"
+
+#include "Platform/Linux/Qt/Later.h"
+
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QStringList>
+#include <QUrl>
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+const auto kService = QStringLiteral("org.freedesktop.portal.Desktop");
+const auto kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const auto kRequest = QStringLiteral("org.freedesktop.portal.Request");
+
+} // namespace
+
+FolderPortal::FolderPortal(QDBusConnection bus, Observers observers)
+    : bus_(std::move(bus))
+    , observers_(std::move(observers))
+{}
+
+void FolderPortal::ask(const QString& prompt, const QString& parent)
+{
+    if (!bus_.isConnected()) {
+        later(*this, [this] { observers_.unavailable(); });
+        return;
+    }
+    // The answer may come before the reply that names it, so its name is made up here.
+    static int count = 0;
+    const QString token = QStringLiteral("tocca%1").arg(++count);
+    QString sender = bus_.baseService().mid(1);
+    sender.replace(QLatin1Char('.'), QLatin1Char('_'));
+    const QString handle = QStringLiteral("%1/request/%2/%3").arg(kPath, sender, token);
+    bus_.connect(kService, handle, kRequest, QStringLiteral("Response"), this,
+                 SLOT(answered(uint, QVariantMap)));
+    auto call = QDBusMessage::createMethodCall(
+        kService, kPath, QStringLiteral("org.freedesktop.portal.FileChooser"), QStringLiteral("OpenFile"));
+    const QVariantMap options{{QStringLiteral("handle_token"), token},
+                              {QStringLiteral("accept_label"), prompt},
+                              {QStringLiteral("directory"), true},
+                              {QStringLiteral("modal"), true}};
+    auto* const reply =
+        new QDBusPendingCallWatcher(bus_.asyncCall(call << parent << prompt << options), this);
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
+        reply->deleteLater();
+        if (reply->isError()) {
+            observers_.unavailable();
+        }
+    });
+}
+
+void FolderPortal::answered(uint response, const QVariantMap& results)
+{
+    constexpr uint kChosen = 0;
+    const QStringList uris = results.value(QStringLiteral("uris")).toStringList();
+    const QString path = uris.isEmpty() ? QString() : QUrl(uris.first()).toLocalFile();
+    if (response != kChosen || path.isEmpty()) {
+        observers_.chosen(std::nullopt);
+        return;
+    }
+    observers_.chosen(std::filesystem::path(path.toStdString()));
+}
+
+} // namespace tocca::platform::linux

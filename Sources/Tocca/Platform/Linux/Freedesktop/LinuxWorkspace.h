@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Platform/Linux/Freedesktop/Applications/DesktopEntries.h"
+#include "Platform/Linux/System/SecureInput.h"
+#include "Platform/Linux/X11/DesktopWatch.h"
+#include "Platform/Timers.h"
+#include "Platform/Workspace.h"
+
+#include <QSocketNotifier>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tocca::platform::linux {
+
+/// The desktop as xdg-open and the X server know it; in a Wayland session nobody may know what is in front.
+///
+/// It also keeps `SecureInput` told of lock screens and password prompts.
+class LinuxWorkspace : public Workspace {
+public:
+    LinuxWorkspace(SecureInput& secureInput, Timers& timers);
+    ~LinuxWorkspace() override;
+
+    /// Errors: false for what is no absolute URL and where xdg-open is missing; what xdg-open finds is not waited for.
+    bool openUrl(const std::string& url) override;
+
+    /// Nothing until the X server's first answer, of which the activation handlers are told.
+    [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override
+    {
+        return frontmost_;
+    }
+
+    [[nodiscard]] Subscription onActivation(ActivationHandler handler) override;
+
+private:
+    void connect();
+    void serve();
+    void lose();
+    void setFront(const std::optional<WindowFacts>& window);
+
+    SecureInput& secureInput_;
+    Timers& timers_;
+    DesktopEntries entries_;
+    std::optional<RunningApplication> frontmost_;
+    std::vector<std::weak_ptr<ActivationHandler>> handlers_;
+    std::unique_ptr<DesktopWatch> watch_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+    std::unique_ptr<Timer> retry_;
+};
+
+} // namespace tocca::platform::linux

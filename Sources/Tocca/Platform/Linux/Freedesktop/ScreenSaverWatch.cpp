@@ -1,0 +1,50 @@
+#include "Platform/Linux/Freedesktop/ScreenSaverWatch.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+ScreenSaverWatch::ScreenSaverWatch(QDBusConnection bus, Service service, std::function<void(bool)> report)
+    : bus_(std::move(bus))
+    , service_(service)
+    , report_(std::move(report))
+    , watcher_(QLatin1String(service.name), bus_, QDBusServiceWatcher::WatchForOwnerChange)
+{
+    QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
+        // One that is gone has taken its lock along; a new one may have locked before it took the name.
+        activeChanged(false);
+        ask();
+    });
+    // Some announce themselves under another path than the one they are asked at.
+    bus_.connect(QLatin1String(service.name), QString(), QLatin1String(service.name),
+                 QStringLiteral("ActiveChanged"), this, SLOT(activeChanged(bool)));
+    ask();
+}
+
+void ScreenSaverWatch::ask()
+{
+    auto call = QDBusMessage::createMethodCall(QLatin1String(service_.name), QLatin1String(service_.path),
+                                               QLatin1String(service_.name), QStringLiteral("GetActive"));
+    call.setAutoStartService(false);
+    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
+                     [this, answer, question = ++question_] {
+                         answer->deleteLater();
+                         const QDBusPendingReply<bool> reply = *answer;
+                         if (question == question_ && reply.isValid()) {
+                             report_(reply.value());
+                         }
+                     });
+}
+
+void ScreenSaverWatch::activeChanged(bool isActive)
+{
+    ++question_;
+    report_(isActive);
+}
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,94 @@
+#include "Platform/Linux/Qt/LinuxApplication.h"
+
+#include "Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h"
+#include "Platform/Linux/Freedesktop/DesktopNotice.h"
+#include "Platform/Linux/Qt/ApplicationIcon.h"
+#include "Platform/Linux/Qt/Later.h"
+#include "Platform/Linux/Qt/Windows/ContentWindow.h"
+#include "Platform/Linux/Qt/Windows/WindowActivation.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace tocca::platform::linux {
+
+LinuxApplication::LinuxApplication(Surroundings surroundings)
+    : surroundings_(std::move(surroundings))
+{
+    QGuiApplication::setDesktopFileName(QLatin1String(kApplicationId));
+    QGuiApplication::setWindowIcon(applicationIcon());
+}
+
+bool LinuxApplication::isFirstInstance()
+{
+    if (!isFirst_) {
+        service_ = std::make_unique<ApplicationService>(
+            QDBusConnection::sessionBus(),
+            ApplicationService::Commands{.activate = [this] { reopen(); }, .quit = [this] { terminate(); }});
+        isFirst_ = service_->claim();
+    }
+    return *isFirst_;
+}
+
+int LinuxApplication::run(ApplicationDelegate& delegate)
+{
+    if (!isFirstInstance()) {
+        return 0;
+    }
+    QGuiApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
+    delegate_ = &delegate;
+    QObject context; // what is still due when the loop ends does not happen
+    later(context, [this, &delegate] {
+        delegate.applicationDidFinishLaunching();
+        if (std::exchange(hasWishToReopen_, false)) {
+            reopen();
+        }
+    });
+    const int status = QCoreApplication::exec();
+    delegate_ = nullptr;
+    service_.reset(); // from here another instance may take over
+    return status;
+}
+
+void LinuxApplication::setActivationPolicy(ActivationPolicy policy)
+{
+    // Only ordinary windows are in the task bar, and only while they are shown: there is nothing more to tell the desktop.
+    if (policy == ActivationPolicy::regular || hasSaidWhereItIs_ || surroundings_.hasStatusIcon()) {
+        return;
+    }
+    hasSaidWhereItIs_ = true;
+    constexpr const char* kNotice =
+        "Tocca keeps running without a window. Start it again to bring the window back.";
+    surroundings_.output.printLine(kNotice);
+    sendDesktopNotice(QDBusConnection::sessionBus(), QLatin1String(kNotice));
+}
+
+void LinuxApplication::activate()
+{
+    for (ContentWindow* const window : surroundings_.windows.all()) {
+        if (window->isVisible()) {
+            bringToFront(*window);
+        }
+    }
+}
+
+void LinuxApplication::terminate()
+{
+    QCoreApplication::exit(); // not quit, which asks the windows first, and ours refuse
+}
+
+void LinuxApplication::reopen()
+{
+    if (delegate_ == nullptr) {
+        hasWishToReopen_ = true;
+        return;
+    }
+    const auto& windows = surroundings_.windows.all();
+    delegate_->applicationShouldHandleReopen(
+        std::any_of(windows.begin(), windows.end(), [](const auto* window) { return window->isVisible(); }));
+}
+
+} // namespace tocca::platform::linux

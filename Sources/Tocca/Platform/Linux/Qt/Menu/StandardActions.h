@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Platform/Linux/Qt/Windows/OwnWindows.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace tocca::platform::linux {
+
+/// What the desktop answers to a menu's standard selectors. Threads: main.
+class StandardActions {
+public:
+    struct Commands {
+        std::function<void()> showAbout;
+        std::function<void()> quit;
+    };
+
+    StandardActions(OwnWindows& windows, Commands commands);
+
+    /// False when `action` is none of them. One that finds nothing to act on does nothing.
+    bool perform(std::string_view action);
+
+private:
+    void hideOthers();
+    void showAll();
+
+    OwnWindows& windows_;
+    const Commands commands_;
+    std::vector<std::uint32_t> minimised_; // windows of other programs, lowest first
+};
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,69 @@
+#include "Platform/Linux/Qt/Windows/FolderDialog.h"
+
+#include "Platform/Linux/Qt/Later.h"
+#include "Platform/Linux/Qt/Windows/WindowActivation.h"
+#include "Platform/Linux/Qt/XDesktop.h"
+
+#include <QDir>
+#include <QQmlComponent>
+#include <QQuickWindow>
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+FolderDialog::FolderDialog(Completion completion)
+    : completion_(std::move(completion))
+{}
+
+FolderDialog::~FolderDialog() = default;
+
+std::unique_ptr<FolderDialog> FolderDialog::open(const QString& prompt, Completion completion)
+{
+    // Not make_unique: the constructor is private.
+    std::unique_ptr<FolderDialog> dialog(new FolderDialog(std::move(completion)));
+    QQmlComponent component(&dialog->engine_, QUrl(QStringLiteral("qrc:/org.tocca/FolderDialog.qml")));
+    QObject* const root = component.createWithInitialProperties(
+        {{QStringLiteral("prompt"), prompt},
+         {QStringLiteral("home"), QUrl::fromLocalFile(QDir::homePath())}});
+    auto* const window = qobject_cast<QQuickWindow*>(root);
+    if (window == nullptr) {
+        delete root;
+        return nullptr;
+    }
+    dialog->window_.reset(window);
+    connect(window, SIGNAL(chosen(QUrl)), dialog.get(), SLOT(choose(QUrl)));
+    connect(window, SIGNAL(cancelled()), dialog.get(), SLOT(cancel()));
+    XDesktop::adopt(*window);
+    window->show();
+    dialog->bringToFront();
+    return dialog;
+}
+
+void FolderDialog::bringToFront()
+{
+    linux::bringToFront(*window_);
+}
+
+void FolderDialog::choose(const QUrl& folder)
+{
+    finish(std::filesystem::path(folder.toLocalFile().toStdString()));
+}
+
+void FolderDialog::cancel()
+{
+    finish(std::nullopt);
+}
+
+void FolderDialog::finish(const std::optional<std::filesystem::path>& folder)
+{
+    auto completion = std::exchange(completion_, nullptr);
+    if (!completion) {
+        return; // the window's end also cancels
+    }
+    window_->hide();
+    // Not from inside the dialog's own call.
+    later(*this, [completion = std::move(completion), folder] { completion(folder); });
+}
+
+} // namespace tocca::platform::linux

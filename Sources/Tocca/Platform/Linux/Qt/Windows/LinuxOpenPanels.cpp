@@ -1,0 +1,72 @@
+#include "Platform/Linux/Qt/Windows/LinuxOpenPanels.h"
+
+#include "Platform/Linux/Qt/Windows/ContentWindow.h"
+#include "Platform/Linux/Qt/Windows/WindowActivation.h"
+#include "Platform/Linux/Qt/XDesktop.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+/// How the portal is told which window the dialog belongs to.
+QString handleOf(const QWindow* window)
+{
+    return window != nullptr && XDesktop::isPresent()
+               ? QStringLiteral("x11:%1").arg(static_cast<qulonglong>(window->winId()), 0, 16)
+               : QString();
+}
+
+} // namespace
+
+void LinuxOpenPanels::chooseDirectory(const std::string& prompt, Completion completion)
+{
+    if (pending_) {
+        if (dialog_) {
+            dialog_->bringToFront();
+        }
+        return;
+    }
+    pending_ = std::move(completion);
+    windows_.setDialog(true);
+    portal_ = std::make_unique<FolderPortal>(
+        QDBusConnection::sessionBus(),
+        FolderPortal::Observers{.chosen = [this](auto directory) { finish(directory); },
+                                .unavailable = [this, prompt] { showOwnDialog(prompt); }});
+    portal_->ask(QString::fromStdString(prompt), handleOf(QGuiApplication::focusWindow()));
+}
+
+void LinuxOpenPanels::showOwnDialog(const std::string& prompt)
+{
+    dialog_ =
+        FolderDialog::open(QString::fromStdString(prompt), [this](auto directory) { finish(directory); });
+    if (!dialog_) {
+        finish(std::nullopt);
+    }
+}
+
+void LinuxOpenPanels::finish(const std::optional<std::filesystem::path>& directory)
+{
+    // They are calling.
+    if (portal_) {
+        portal_.release()->deleteLater();
+    }
+    if (dialog_) {
+        dialog_.release()->deleteLater();
+    }
+    windows_.setDialog(false);
+    for (ContentWindow* const window : windows_.all()) {
+        if (window->isVisible() && window->type() == Qt::Tool) {
+            bringToFront(*window); // a popover goes away with the focus, so it has to have it
+        }
+    }
+    if (const auto completion = std::exchange(pending_, nullptr)) {
+        completion(directory);
+    }
+}
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Platform/Linux/Freedesktop/FolderPortal.h"
+#include "Platform/Linux/Qt/Windows/FolderDialog.h"
+#include "Platform/Linux/Qt/Windows/OwnWindows.h"
+#include "Platform/OpenPanels.h"
+
+#include <memory>
+
+namespace tocca::platform::linux {
+
+/// The desktop portal's file chooser, or the toolkit's own dialog where there is no portal. Lifetime: ends before `windows`.
+class LinuxOpenPanels : public OpenPanels {
+public:
+    explicit LinuxOpenPanels(OwnWindows& windows) noexcept
+        : windows_(windows)
+    {}
+
+    void chooseDirectory(const std::string& prompt, Completion completion) override;
+
+private:
+    void showOwnDialog(const std::string& prompt);
+    void finish(const std::optional<std::filesystem::path>& directory);
+
+    OwnWindows& windows_;
+    Completion pending_;
+    std::unique_ptr<FolderPortal> portal_; // of the request under way
+    std::unique_ptr<FolderDialog> dialog_;
+};
+
+} // namespace tocca::platform::linux

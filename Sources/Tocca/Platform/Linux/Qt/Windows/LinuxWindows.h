@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Platform/Linux/Qt/Windows/OwnWindows.h"
+#include "Platform/Windows.h"
+
+namespace tocca::platform::linux {
+
+/// Ordinary windows of the toolkit, which the desktop decorates. Lifetime: outlives its windows.
+class LinuxWindows : public Windows {
+public:
+    explicit LinuxWindows(OwnWindows& family) noexcept
+        : family_(family)
+    {}
+
+    [[nodiscard]] std::unique_ptr<Window> make(const WindowOptions& options,
+                                               std::unique_ptr<View> content) override;
+
+private:
+    OwnWindows& family_;
+};
+
+} // namespace tocca::platform::linux

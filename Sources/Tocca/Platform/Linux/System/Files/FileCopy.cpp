@@ -1,0 +1,102 @@
+#include "Platform/Linux/System/Files/FileCopy.h"
+
+#include "Platform/Linux/System/FileDescriptor.h"
+#include "Platform/Linux/System/Files/FileError.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <variant>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+constexpr std::size_t kChunk = std::size_t{128} * 1024;
+constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO; // without set-user-ID and its like
+constexpr mode_t kOwnerMay = S_IRUSR | S_IWUSR;
+
+/// Repeats a system call that a signal has interrupted.
+template <class Call>
+auto retried(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
+int writeAll(int descriptor, const std::byte* bytes, std::size_t length)
+{
+    while (length > 0) {
+        const ssize_t count = retried([=] { return ::write(descriptor, bytes, length); });
+        if (count < 0) {
+            return errno;
+        }
+        bytes += count;
+        length -= static_cast<std::size_t>(count);
+    }
+    return 0;
+}
+
+/// Copies until the end of `from`; an error names the side it arose on.
+Outcome copyBytes(const FileDescriptor& from, const std::filesystem::path& fromPath, const FileDescriptor& to,
+                  const std::filesystem::path& toPath)
+{
+    std::vector<std::byte> chunk(kChunk);
+    for (;;) {
+        const ssize_t count = retried([&] { return ::read(from.get(), chunk.data(), chunk.size()); });
+        if (count < 0) {
+            return fileError(fromPath, errno);
+        }
+        if (count == 0) {
+            break;
+        }
+        if (const int number = writeAll(to.get(), chunk.data(), static_cast<std::size_t>(count));
+            number != 0) {
+            return fileError(toPath, number);
+        }
+    }
+    if (retried([&] { return ::fsync(to.get()); }) != 0) {
+        return fileError(toPath, errno);
+    }
+    return std::monostate{};
+}
+
+} // namespace
+
+Outcome copyRegularFile(const std::filesystem::path& from, const std::filesystem::path& to)
+{
+    constexpr int kNeverWait = O_NONBLOCK | O_CLOEXEC | O_NOCTTY | O_NOFOLLOW;
+    const FileDescriptor source(retried([&] { return ::open(from.c_str(), O_RDONLY | kNeverWait); }));
+    if (!source.isOpen()) {
+        return fileError(from, errno);
+    }
+
+    struct stat status {};
+
+    if (::fstat(source.get(), &status) != 0) {
+        return fileError(from, errno);
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return fileError(from, "not a regular file");
+    }
+    const mode_t mode = (status.st_mode & kPermissions) | kOwnerMay;
+    const FileDescriptor target(
+        retried([&] { return ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | kNeverWait, mode); }));
+    if (!target.isOpen()) {
+        return fileError(to, errno);
+    }
+    auto copied = copyBytes(source, from, target, to);
+    if (!copied) {
+        ::unlink(to.c_str());
+    }
+    return copied;
+}
+
+} // namespace tocca::platform::linux

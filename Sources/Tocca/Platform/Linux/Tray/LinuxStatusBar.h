@@ -1,0 +1,87 @@
+#pragma once
+
+#include "Platform/Linux/Qt/XDesktop.h"
+#include "Platform/Linux/Tray/DBusMenu.h"
+#include "Platform/Linux/Tray/EmbeddedIcon.h"
+#include "Platform/Linux/Tray/PopupMenu.h"
+#include "Platform/Linux/Tray/StatusNotifierItem.h"
+#include "Platform/Linux/Tray/StatusNotifierWatch.h"
+#include "Platform/StatusBar.h"
+
+#include <QRect>
+#include <QSocketNotifier>
+
+#include <functional>
+#include <memory>
+
+namespace tocca::platform::linux {
+
+class LinuxStatusItem;
+
+/// The tray: status items of the session bus where somebody shows those, else an icon that an X11 tray takes in. Either may come
+/// and go at any time.
+class LinuxStatusBar : public StatusBar {
+public:
+    /// What the icon's menu does besides showing the popover.
+    struct Commands {
+        std::function<void()> openStudio;
+        std::function<void()> quit;
+    };
+
+    LinuxStatusBar(XDesktop& desktop, Commands commands);
+
+    /// One at a time.
+    [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
+
+    /// Whether the icon is to be seen, as far as the desktop tells.
+    [[nodiscard]] bool isShown() const;
+
+private:
+    friend class LinuxStatusItem;
+
+    XDesktop& desktop_;
+    const Commands commands_;
+    LinuxStatusItem* item_ = nullptr;
+};
+
+/// Lifetime: ends before its status bar.
+class LinuxStatusItem final : public StatusItem {
+public:
+    explicit LinuxStatusItem(LinuxStatusBar& bar);
+    LinuxStatusItem(const LinuxStatusItem&) = delete;
+    LinuxStatusItem& operator=(const LinuxStatusItem&) = delete;
+    ~LinuxStatusItem() override;
+
+    [[nodiscard]] bool hasButton() const override { return true; }
+
+    void setIcon(const TemplateIcon& icon) override;
+
+    void setAction(std::function<void()> action) override { action_ = std::move(action); }
+
+    /// Where the icon is on the screen, empty when nobody tells. Units: the toolkit's points.
+    [[nodiscard]] QRect iconPlace() const;
+
+    [[nodiscard]] bool isShown() const;
+
+private:
+    void click();
+    void openMenu();
+    [[nodiscard]] MenuNode menu();
+
+    /// Puts an icon into an X11 tray, or takes it out, as things are now.
+    void follow();
+
+    LinuxStatusBar& bar_;
+    TemplateIcon icon_;
+    std::function<void()> action_;
+    PopupMenu popup_;
+    std::unique_ptr<DBusMenu> busMenu_;
+    std::unique_ptr<StatusNotifierItem> notifierItem_;
+    std::unique_ptr<StatusNotifierWatch> notifierWatch_;
+    std::unique_ptr<EmbeddedIcon> embedded_;
+    std::unique_ptr<QSocketNotifier> embeddedNotifier_;
+    xcb_window_t refusedTray_ = XCB_NONE; // it has thrown the icon out
+    Subscription traysChanged_;
+};
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,57 @@
+#include "Platform/Linux/Tray/StatusNotifierItem.h"
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+const auto kPath = QStringLiteral("/StatusNotifierItem"); // the only one that every desktop looks at
+
+} // namespace
+
+StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, QString menuPath, Observers observers)
+    : bus_(std::move(bus))
+    , menuPath_(std::move(menuPath))
+    , observers_(std::move(observers))
+{
+    registerStatusNotifierTypes();
+    bus_.registerObject(kPath, this,
+                        QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals |
+                            QDBusConnection::ExportAllProperties);
+}
+
+StatusNotifierItem::~StatusNotifierItem()
+{
+    bus_.unregisterObject(kPath);
+}
+
+void StatusNotifierItem::setIcon(const QString& name, const StatusPixmaps& pixmaps)
+{
+    iconName_ = name;
+    pixmaps_ = pixmaps;
+    Q_EMIT NewIcon();
+}
+
+void StatusNotifierItem::Activate(int /*x*/, int /*y*/)
+{
+    observers_.activated();
+}
+
+void StatusNotifierItem::SecondaryActivate(int /*x*/, int /*y*/)
+{
+    observers_.activated();
+}
+
+void StatusNotifierItem::ContextMenu(int x, int y)
+{
+    observers_.menuRequested({x, y});
+}
+
+void StatusNotifierItem::ProvideXdgActivationToken(const QString& token)
+{
+    // The toolkit hands it in with the next activation of a window.
+    qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+}
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,69 @@
+#include "Platform/Linux/Tray/StatusNotifierWatch.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+#include <utility>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+const auto kService = QStringLiteral("org.kde.StatusNotifierWatcher"); // also its interface's name
+const auto kPath = QStringLiteral("/StatusNotifierWatcher");
+
+} // namespace
+
+StatusNotifierWatch::StatusNotifierWatch(QDBusConnection bus, std::function<void()> changed)
+    : bus_(std::move(bus))
+    , changed_(std::move(changed))
+    , watcher_(kService, bus_, QDBusServiceWatcher::WatchForOwnerChange)
+{
+    QObject::connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, [this] { announce(); });
+    QObject::connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        ++question_;
+        setHost(false);
+    });
+    for (const char* const signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
+        bus_.connect(kService, kPath, kService, QLatin1String(signal), this, SLOT(ask()));
+    }
+    announce();
+}
+
+void StatusNotifierWatch::announce()
+{
+    // The item may be known before anybody shows it: those who come later find it in the list.
+    auto call = QDBusMessage::createMethodCall(kService, kPath, kService,
+                                               QStringLiteral("RegisterStatusNotifierItem"));
+    call.setAutoStartService(false);
+    bus_.asyncCall(call << bus_.baseService());
+    ask();
+}
+
+void StatusNotifierWatch::ask()
+{
+    auto call = QDBusMessage::createMethodCall(
+        kService, kPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    call.setAutoStartService(false);
+    call << kService << QStringLiteral("IsStatusNotifierHostRegistered");
+    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
+                     [this, answer, question = ++question_] {
+                         answer->deleteLater();
+                         const QDBusPendingReply<QDBusVariant> reply = *answer;
+                         if (question == question_) {
+                             setHost(reply.isValid() && reply.value().variant().toBool());
+                         }
+                     });
+}
+
+void StatusNotifierWatch::setHost(bool hasHost)
+{
+    if (std::exchange(hasHost_, hasHost) != hasHost) {
+        changed_();
+    }
+}
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,265 @@
+#include "Platform/Linux/Qt/LinuxApplication.h"
+#include "Platform/Linux/Qt/Menu/LinuxMainMenu.h"
+#include "Platform/Linux/Qt/Windows/LinuxWindows.h"
+
+#include "Linux/Qt/DesktopMachine.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDBusVirtualObject>
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+class Lines : public StandardOutput {
+public:
+    void printLine(std::string_view line) override { lines.emplace_back(line); }
+
+    std::vector<std::string> lines;
+};
+
+class Delegate final : public ApplicationDelegate {
+public:
+    explicit Delegate(std::function<void()> launched)
+        : launched_(std::move(launched))
+    {}
+
+    void applicationDidFinishLaunching() override { launched_(); }
+
+    bool applicationShouldHandleReopen(bool /*hasVisibleWindows*/) override
+    {
+        ++reopenings;
+        return true;
+    }
+
+    [[nodiscard]] bool applicationShouldTerminateAfterLastWindowClosed() override { return false; }
+
+    int reopenings = 0;
+
+private:
+    std::function<void()> launched_;
+};
+
+TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
+{
+    OwnWindows windows;
+    Lines lines;
+    LinuxApplication application(
+        {.windows = windows, .output = lines, .hasStatusIcon = [] { return false; }});
+    LinuxWindows factory(windows);
+    Content content;
+    const auto window = factory.make(
+        {.title = "Studio", .contentSize = {400, 300}, .minimumSize = {200, 100}, .background = {}},
+        content.view());
+    window->setShouldClose([] { return false; });
+    std::optional<int> secondsStatus;
+    Delegate delegate([&] {
+        testkit::Process second({TOCCA_SECOND_INSTANCE});
+        runUntil(
+            [&] { return (secondsStatus = second.waitForExit(std::chrono::milliseconds(1))).has_value(); });
+        application.setActivationPolicy(ActivationPolicy::regular);
+        window->makeKeyAndOrderFront();
+        EXPECT_TRUE(runUntil([&] { return content.isShown(); }));
+        application.setActivationPolicy(ActivationPolicy::accessory);
+        application.setActivationPolicy(ActivationPolicy::accessory);
+        application.terminate();
+    });
+    EXPECT_EQ(application.run(delegate), 0) << "although a window would rather stay";
+    EXPECT_EQ(secondsStatus, 0);
+    EXPECT_EQ(delegate.reopenings, 1);
+    EXPECT_THAT(lines.lines,
+                testing::ElementsAre("Tocca keeps running without a window. Start it again to bring "
+                                     "the window back."));
+
+    testkit::Process next({TOCCA_SECOND_INSTANCE});
+    EXPECT_EQ(next.waitForExit(std::chrono::seconds(20)), 1) << "the name is free again";
+    testkit::Process alone({TOCCA_SECOND_INSTANCE}, {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
+    EXPECT_EQ(alone.waitForExit(std::chrono::seconds(20)), 1) << "it runs without a bus";
+}
+
+class Target final : public MenuTarget {
+public:
+    bool performMenuAction(std::string_view action) override
+    {
+        actions.emplace_back(action);
+        return action == "toggleNotchHUD:";
+    }
+
+    [[nodiscard]] MenuItemState validateMenuItem(const MenuItem& item) override
+    {
+        return {.isEnabled = item.action != "disabled:", .isChecked = item.action == "toggleNotchHUD:"};
+    }
+
+    std::vector<std::string> actions;
+};
+
+class MenuDesktop : public ::testing::Test {
+protected:
+    MenuDesktop()
+    {
+        menu_.install({{"", {{"Quit Tocca", "terminate:", {"q"}}}},
+                       {"File", {{"Close Window", "performClose:", {"w"}}, {}}},
+                       {"View",
+                        {{"Show Notch Dynamic Island HUD", "toggleNotchHUD:", {.key = "n", .control = true}},
+                         {"Off", "disabled:", {"d"}}}}},
+                      target_);
+    }
+
+    /// A window with a text field that has the focus.
+    std::unique_ptr<Window> showTextField()
+    {
+        auto view = std::make_unique<QuickView>([this](QQuickItem& parent) {
+            QQmlComponent component(&engine_);
+            component.setData("import QtQuick\nTextInput { focus: true; text: \"stem\" }", {});
+            field_ = qobject_cast<QQuickItem*>(component.create());
+            field_->setParentItem(&parent);
+            return field_;
+        });
+        auto window = windows_.make(
+            {.title = "Text", .contentSize = {400, 300}, .minimumSize = {200, 100}, .background = {}},
+            std::move(view));
+        window->makeKeyAndOrderFront();
+        EXPECT_TRUE(runUntil([&] { return QGuiApplication::focusObject() == field_; }));
+        return window;
+    }
+
+    bool perform(const char* action) { return menu_.perform({"Chosen", action, {}}); }
+
+    int abouts_ = 0;
+    int quits_ = 0;
+    OwnWindows family_;
+    LinuxWindows windows_{family_};
+    Target target_;
+    LinuxMainMenu menu_{family_, {.showAbout = [this] { ++abouts_; }, .quit = [this] { ++quits_; }}};
+    QQmlEngine engine_;
+    QQuickItem* field_ = nullptr;
+};
+
+TEST_F(MenuDesktop, DoesWhatTheDesktopAnswersToAndHandsOnTheRest)
+{
+    const auto window = showTextField();
+    EXPECT_TRUE(perform("orderFrontStandardAboutPanel:"));
+    EXPECT_TRUE(perform("terminate:"));
+    EXPECT_EQ(abouts_ * 10 + quits_, 11);
+    EXPECT_TRUE(perform("toggleNotchHUD:"));
+    EXPECT_FALSE(perform("unknown:"));
+    EXPECT_FALSE(perform("disabled:"));
+    EXPECT_THAT(target_.actions, testing::ElementsAre("toggleNotchHUD:", "unknown:"));
+
+    perform("selectAll:");
+    EXPECT_EQ(field_->property("selectedText"), QStringLiteral("stem"));
+    perform("cut:");
+    EXPECT_EQ(field_->property("text"), QString());
+    perform("undo:");
+    EXPECT_EQ(field_->property("text"), QStringLiteral("stem"));
+    perform("redo:");
+    perform("paste:");
+    EXPECT_EQ(field_->property("text"), QStringLiteral("stem"));
+
+    perform("performZoom:");
+    EXPECT_TRUE(runUntil([&] { return field_->window()->width() > 1000; }));
+    perform("performZoom:");
+    EXPECT_TRUE(runUntil([&] { return field_->window()->width() == 400; }));
+    perform("hide:");
+    EXPECT_FALSE(window->isVisible());
+    perform("unhideAllApplications:");
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(MenuDesktop, TakesItsKeysInOwnWindowsAndLeavesTextFieldsTheirs)
+{
+    const auto window = showTextField();
+    bool wantsToClose = false;
+    window->setShouldClose([&] {
+        wantsToClose = true;
+        return false;
+    });
+    outputOf({"xdotool", "key", "ctrl+a"});
+    outputOf({"xdotool", "key", "ctrl+x"});
+    EXPECT_TRUE(runUntil([&] { return field_->property("text").toString().isEmpty(); }));
+    outputOf({"xdotool", "key", "ctrl+super+n", "ctrl+d", "ctrl+w", "ctrl+q"});
+    EXPECT_TRUE(runUntil([&] { return quits_ == 1; }));
+    EXPECT_TRUE(runUntil([&] { return wantsToClose; }));
+    EXPECT_THAT(target_.actions, testing::ElementsAre("toggleNotchHUD:"));
+}
+
+TEST_F(MenuDesktop, MinimisesTheOtherProgramsAndBringsThemBack)
+{
+    testkit::Process other({"xev"});
+    const auto window = showTextField();
+    const auto isMinimised = [] {
+        const std::string id = outputOf({"xdotool", "search", "--name", "Event Tester"});
+        return id.empty() ? std::string()
+                          : outputOf({"xprop", "-id", id.substr(0, id.find('\n')), "WM_STATE"});
+    };
+    ASSERT_TRUE(runUntil([&] { return contains(isMinimised(), "Normal"); }));
+    perform("hideOtherApplications:");
+    EXPECT_TRUE(runUntil([&] { return contains(isMinimised(), "Iconic"); }));
+    EXPECT_TRUE(window->isVisible());
+    perform("unhideAllApplications:");
+    EXPECT_TRUE(runUntil([&] { return contains(isMinimised(), "Normal"); }));
+}
+
+/// What shows menus outside the windows on desktops that have it.
+class Registrar : public QDBusVirtualObject {
+public:
+    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
+    {
+        window = message.arguments().value(0).toUInt();
+        menuPath = qvariant_cast<QDBusObjectPath>(message.arguments().value(1)).path();
+        connection.send(message.createReply());
+        return true;
+    }
+
+    uint window = 0;
+    QString menuPath;
+};
+
+TEST_F(MenuDesktop, IsShownByADesktopThatHasAPlaceForIt)
+{
+    const auto window = showTextField();
+    EXPECT_FALSE(menu_.isShownByDesktop());
+    int changes = 0;
+    const auto changed = menu_.onDesktopChange([&] { ++changes; });
+    auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("registrar"));
+    Registrar registrar;
+    const auto kName = QStringLiteral("com.canonical.AppMenu.Registrar");
+    ASSERT_TRUE(bus.registerVirtualObject(QStringLiteral("/com/canonical/AppMenu/Registrar"), &registrar));
+    ASSERT_TRUE(bus.registerService(kName));
+    ASSERT_TRUE(runUntil([&] { return registrar.window != 0; }));
+    EXPECT_EQ(registrar.window, field_->window()->winId());
+    EXPECT_TRUE(menu_.isShownByDesktop());
+
+    auto call =
+        QDBusMessage::createMethodCall(QDBusConnection::sessionBus().baseService(), registrar.menuPath,
+                                       QStringLiteral("com.canonical.dbusmenu"), QStringLiteral("GetLayout"));
+    const QDBusPendingCall pending = bus.asyncCall(call << 0 << -1 << QStringList());
+    ASSERT_TRUE(runUntil([&] { return pending.isFinished(); }));
+    const auto tree = qdbus_cast<DBusMenuTree>(pending.reply().arguments().value(1));
+    ASSERT_EQ(tree.children.size(), 3);
+    const auto& hud = tree.children[2].children[0].properties;
+    EXPECT_EQ(hud[QStringLiteral("toggle-state")], 1);
+    EXPECT_EQ(qdbus_cast<QList<QStringList>>(hud[QStringLiteral("shortcut")]).value(0),
+              (QStringList{QStringLiteral("Control"), QStringLiteral("Super"), QStringLiteral("n")}));
+
+    bus.unregisterService(kName);
+    EXPECT_TRUE(runUntil([&] { return !menu_.isShownByDesktop(); }));
+    EXPECT_EQ(changes, 2);
+    QDBusConnection::disconnectFromBus(QStringLiteral("registrar"));
+}
+
+} // namespace
+
+} // namespace tocca::platform::linux

@@ -1,0 +1,102 @@
+#include "Platform/Linux/Qt/Windows/LinuxOpenPanels.h"
+
+#include "Linux/Qt/DesktopMachine.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVirtualObject>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <filesystem>
+#include <optional>
+
+namespace tocca::platform::linux {
+
+namespace {
+
+/// A desktop portal whose person has made up his mind.
+class Portal : public QDBusVirtualObject {
+public:
+    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
+    {
+        options = qdbus_cast<QVariantMap>(message.arguments().value(2));
+        QString sender = message.service().mid(1);
+        sender.replace(QLatin1Char('.'), QLatin1Char('_'));
+        const QString handle = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
+                                   .arg(sender, options[QStringLiteral("handle_token")].toString());
+        // The answer before the reply, as a portal may.
+        connection.send(
+            QDBusMessage::createSignal(handle, QStringLiteral("org.freedesktop.portal.Request"),
+                                       QStringLiteral("Response"))
+            << response
+            << QVariantMap{{QStringLiteral("uris"), QStringList{QStringLiteral("file:///tmp/My%20packs")}}});
+        connection.send(message.createReply(QVariant::fromValue(QDBusObjectPath(handle))));
+        return true;
+    }
+
+    uint response = 0;
+    QVariantMap options;
+};
+
+class OpenPanelsDesktop : public ::testing::Test {
+protected:
+    std::optional<std::filesystem::path> choose()
+    {
+        std::optional<std::filesystem::path> chosen;
+        bool isAnswered = false;
+        panels_.chooseDirectory("Import", [&](const auto& directory) {
+            chosen = directory;
+            isAnswered = true;
+        });
+        EXPECT_TRUE(windows_.hasDialog());
+        EXPECT_TRUE(runUntil([&] {
+            whileWaiting_();
+            return isAnswered;
+        }));
+        EXPECT_FALSE(windows_.hasDialog());
+        return chosen;
+    }
+
+    std::function<void()> whileWaiting_ = [] {};
+    OwnWindows windows_;
+    LinuxOpenPanels panels_{windows_};
+};
+
+TEST_F(OpenPanelsDesktop, AsksTheDesktopsPortal)
+{
+    auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal"));
+    Portal portal;
+    ASSERT_TRUE(bus.registerVirtualObject(QStringLiteral("/org/freedesktop/portal/desktop"), &portal));
+    ASSERT_TRUE(bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+    EXPECT_EQ(choose(), std::filesystem::path("/tmp/My packs"));
+    EXPECT_TRUE(portal.options[QStringLiteral("directory")].toBool());
+    EXPECT_EQ(portal.options[QStringLiteral("accept_label")].toString(), QStringLiteral("Import"));
+    portal.response = 1;
+    EXPECT_EQ(choose(), std::nullopt) << "cancelled";
+    QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+}
+
+TEST_F(OpenPanelsDesktop, ShowsTheToolkitsDialogWithoutAPortal)
+{
+    bool hasPressed = false;
+    whileWaiting_ = [&] {
+        const QWindow* const focus = QGuiApplication::focusWindow();
+        if (!hasPressed && focus != nullptr && focus->isExposed()) {
+            hasPressed = true;
+            outputOf({"xdotool", "key", "Escape"});
+        }
+    };
+    EXPECT_EQ(choose(), std::nullopt);
+    EXPECT_TRUE(hasPressed);
+}
+
+} // namespace
+
+} // namespace tocca::platform::linux
