@@ -1,6 +1,6 @@
 #include "Showroom.h"
 
-#include "UI/Studio/ShowroomCatalogue.h"
+#include "UI/Studio/Showroom/ShowroomCatalogue.h"
 
 #include <benchmark/benchmark.h>
 

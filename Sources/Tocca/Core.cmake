@@ -22,23 +22,23 @@ app_module(tocca_core
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
         UI/Controllers.cpp
-        UI/MenuBar/CommunityPage.cpp
-        UI/MenuBar/FileUrl.cpp
-        UI/MenuBar/PackImport.cpp
-        UI/MenuBar/SoundPackRows.cpp
+        UI/ViewFactory.cpp
         UI/NotchHUD/NotchAcousticHUDController.cpp
+        UI/Popover/FileUrl.cpp
+        UI/Popover/Packs/CommunityPage.cpp
+        UI/Popover/Packs/PackImport.cpp
+        UI/Popover/Packs/SoundPackRows.cpp
+        UI/Studio/StudioText.cpp
+        UI/Studio/Showroom/ShowroomCatalogue.cpp
+        UI/Studio/Showroom/ShowroomItem.cpp
+        UI/Studio/Showroom/SwitchSelection.cpp
+        UI/Studio/Showroom/SwitchTraits.cpp
+        UI/Studio/Showroom/TextFolding.cpp
+        UI/Studio/Sidebar/StudioTab.cpp
+        UI/Studio/Stage/VisualKey.cpp
+        UI/Studio/WindowMenu/KeyEquivalentText.cpp
         UI/Underglow/SpatialUnderglowController.cpp
         UI/Underglow/UnderglowTheme.cpp
-        UI/Studio/KeyEquivalentText.cpp
-        UI/Studio/ShowroomCatalogue.cpp
-        UI/Studio/ShowroomItem.cpp
-        UI/Studio/StudioTab.cpp
-        UI/Studio/StudioText.cpp
-        UI/Studio/SwitchSelection.cpp
-        UI/Studio/SwitchTraits.cpp
-        UI/Studio/TextFolding.cpp
-        UI/Studio/VisualKey.cpp
-        UI/ViewFactory.cpp
     HEADERS
         App/AppDelegate.h
         App/LaunchAtLogin.h
@@ -66,25 +66,25 @@ app_module(tocca_core
         Keyboard/KeyboardMonitor.h
         Keyboard/TypingSpeed.h
         UI/Controllers.h
-        UI/MenuBar/CommunityPage.h
-        UI/MenuBar/FileUrl.h
-        UI/MenuBar/PackImport.h
-        UI/MenuBar/SoundPackRows.h
+        UI/StudioTheme.h
+        UI/ViewFactory.h
         UI/NotchHUD/NotchAcousticHUDController.h
         UI/NotchHUD/Waveform.h
-        UI/Studio/KeyEquivalentText.h
-        UI/Studio/ShowroomCatalogue.h
-        UI/Studio/ShowroomItem.h
-        UI/Studio/StudioTab.h
+        UI/Popover/FileUrl.h
+        UI/Popover/Packs/CommunityPage.h
+        UI/Popover/Packs/PackImport.h
+        UI/Popover/Packs/SoundPackRows.h
         UI/Studio/StudioText.h
-        UI/Studio/SwitchSelection.h
-        UI/Studio/SwitchTraits.h
-        UI/Studio/TextFolding.h
-        UI/Studio/VisualKey.h
-        UI/StudioTheme.h
+        UI/Studio/Showroom/ShowroomCatalogue.h
+        UI/Studio/Showroom/ShowroomItem.h
+        UI/Studio/Showroom/SwitchSelection.h
+        UI/Studio/Showroom/SwitchTraits.h
+        UI/Studio/Showroom/TextFolding.h
+        UI/Studio/Sidebar/StudioTab.h
+        UI/Studio/Stage/VisualKey.h
+        UI/Studio/WindowMenu/KeyEquivalentText.h
         UI/Underglow/Glow.h
         UI/Underglow/SpatialUnderglowController.h
         UI/Underglow/UnderglowTheme.h
-        UI/ViewFactory.h
     DEPENDS tocca_platform
     PRIVATE_DEPENDS simdjson::simdjson)

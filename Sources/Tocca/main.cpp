@@ -10,7 +10,7 @@
 #include "Player/Mixer.h"
 #include "Player/MixerAudioPlayers.h"
 #include "Support/ThreadRole.h"
-#include "UI/Quick/Interface.h"
+#include "UI/Interface.h"
 
 #include <QGuiApplication>
 #include <QtQml/QQmlExtensionPlugin>

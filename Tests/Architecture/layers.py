@@ -51,8 +51,8 @@ CONDITION = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif|else)\b")
 MODULE = re.compile(r"\b(?:app_module|set|list)\s*\(([^)]*)\)")
 HEADER_LISTS = {"HEADERS", "TOCCA_UI_HEADERS"}
 
-# The parts of the interface that stand on the toolkit.
-VIEW = re.compile(r"^UI/((Quick|Controls|Symbols)/.*|.*ViewModel\.(h|cpp))$")
+# The parts of the interface that stand on Qt.
+VIEW = re.compile(r"^UI/((Quick|Controls|Symbols)/.*|(.*ViewModel|Interface)\.(h|cpp))$")
 
 
 def layer(path):

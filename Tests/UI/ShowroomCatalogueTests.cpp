@@ -1,8 +1,8 @@
 #include "UI/ControllersOnMemory.h"
-#include "UI/Studio/ShowroomCatalogue.h"
-#include "UI/Studio/SwitchSelection.h"
-#include "UI/Studio/SwitchTraits.h"
-#include "UI/Studio/TextFolding.h"
+#include "UI/Studio/Showroom/ShowroomCatalogue.h"
+#include "UI/Studio/Showroom/SwitchSelection.h"
+#include "UI/Studio/Showroom/SwitchTraits.h"
+#include "UI/Studio/Showroom/TextFolding.h"
 
 #include <gmock/gmock.h>
 

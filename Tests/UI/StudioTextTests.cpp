@@ -1,6 +1,6 @@
-#include "UI/Studio/KeyEquivalentText.h"
+#include "UI/Studio/Stage/VisualKey.h"
 #include "UI/Studio/StudioText.h"
-#include "UI/Studio/VisualKey.h"
+#include "UI/Studio/WindowMenu/KeyEquivalentText.h"
 
 #include <gtest/gtest.h>
 

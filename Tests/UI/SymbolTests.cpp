@@ -1,6 +1,6 @@
 #include "Audio/SoundProfile.h"
 #include "UI/Quick/UiProperty.h"
-#include "UI/Studio/StudioTab.h"
+#include "UI/Studio/Sidebar/StudioTab.h"
 #include "UI/Symbols/SymbolDrawings.h"
 
 #include <QDirIterator>

@@ -2,7 +2,7 @@
 
 #include "Screen.h"
 #include "UI/ControllersOnMemory.h"
-#include "UI/MenuBar/MenuBarViewModel.h"
+#include "UI/Popover/MenuBarViewModel.h"
 
 #include <array>
 #include <functional>
@@ -47,7 +47,7 @@ void takePopover(const QString& directory, const QString& suffix, const QString&
     MenuBarViewModel model(
         machine.all, [] {}, [] {});
     Screen screen(directory, suffix);
-    screen.show(QStringLiteral("MenuBar/MenuBarView.qml"), model, QSize(360, 560));
+    screen.show(QStringLiteral("Popover/MenuBarView.qml"), model, QSize(360, 560));
     machine.host.settle();
     machine.engine.lastActiveKeyPan.set(-0.4F);
     machine.engine.keyVisualizerTrigger.set(1);
@@ -67,7 +67,7 @@ void takeFocus(const QString& directory, const QString& suffix)
     MenuBarViewModel model(
         machine.all, [] {}, [] {});
     Screen screen(directory, suffix);
-    screen.show(QStringLiteral("MenuBar/MenuBarView.qml"), model, QSize(360, 560));
+    screen.show(QStringLiteral("Popover/MenuBarView.qml"), model, QSize(360, 560));
     machine.host.settle();
     for (int i = 0; i < 3; ++i) {
         screen.press(Qt::Key_Tab);

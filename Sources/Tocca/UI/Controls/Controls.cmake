@@ -1,28 +1,16 @@
 list(APPEND TOCCA_UI_QML
     Controls/Badge.qml
-    Controls/ButtonFace.qml
-    Controls/ButtonGround.qml
     Controls/CapitalLabel.qml
     Controls/Card.qml
     Controls/CheckDrawing.qml
     Controls/CheckToggle.qml
-    Controls/ClearButton.qml
     Controls/Divider.qml
     Controls/FieldGround.qml
     Controls/FocusRing.qml
     Controls/Label.qml
-    Controls/MenuEntry.qml
-    Controls/MenuPicker.qml
-    Controls/PlainButton.qml
-    Controls/PopupMenu.qml
-    Controls/PopupMenuSheet.qml
-    Controls/Pressable.qml
-    Controls/PushButton.qml
     Controls/ScrollArea.qml
     Controls/ScrollBar.qml
     Controls/Section.qml
-    Controls/Segment.qml
-    Controls/SegmentedPicker.qml
     Controls/Slider.qml
     Controls/SliderTrack.qml
     Controls/SwitchDrawing.qml
@@ -31,10 +19,16 @@ list(APPEND TOCCA_UI_QML
     Controls/Toggle.qml
     Controls/ToggleRow.qml
     Controls/ToolTip.qml
-    Controls/ToolTipBubble.qml)
-list(APPEND TOCCA_UI_SOURCES
-    Controls/SwitchStemShape.cpp
-    Controls/ToccaBrandLogoView.cpp)
-list(APPEND TOCCA_UI_HEADERS
-    UI/Controls/SwitchStemShape.h
-    UI/Controls/ToccaBrandLogoView.h)
+    Controls/ToolTipBubble.qml
+    Controls/Buttons/ButtonFace.qml
+    Controls/Buttons/ButtonGround.qml
+    Controls/Buttons/ClearButton.qml
+    Controls/Buttons/PlainButton.qml
+    Controls/Buttons/Pressable.qml
+    Controls/Buttons/PushButton.qml
+    Controls/Buttons/Segment.qml
+    Controls/Buttons/SegmentedPicker.qml
+    Controls/Menus/MenuEntry.qml
+    Controls/Menus/MenuPicker.qml
+    Controls/Menus/PopupMenu.qml
+    Controls/Menus/PopupMenuSheet.qml)

@@ -8,7 +8,7 @@ class QQuickItem;
 
 namespace tocca::ui {
 
-/// Makes the item of a view's file, given from the module's root ("MenuBar/MenuBarView.qml"), with its required property `model` set. The
+/// Makes the item of a view's file, given from the module's root ("Popover/MenuBarView.qml"), with its required property `model` set. The
 /// item belongs to `parent`, and fills it. Errors: aborts with the engine's message, since the files are part of the program.
 [[nodiscard]] QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model,
                                       QQuickItem& parent);

@@ -3,14 +3,14 @@
 #include "Keyboard/KeyboardMonitor.h"
 #include "UI/Controllers.h"
 #include "UI/Quick/UiProperty.h"
-#include "UI/Studio/AcousticsViewModel.h"
-#include "UI/Studio/MainMenuViewModel.h"
-#include "UI/Studio/PrivacyViewModel.h"
-#include "UI/Studio/SettingsViewModel.h"
-#include "UI/Studio/ShowroomViewModel.h"
-#include "UI/Studio/StageViewModel.h"
-#include "UI/Studio/StudioTab.h"
-#include "UI/Studio/TelemetryViewModel.h"
+#include "UI/Studio/Acoustics/AcousticsViewModel.h"
+#include "UI/Studio/Pages/PrivacyViewModel.h"
+#include "UI/Studio/Pages/SettingsViewModel.h"
+#include "UI/Studio/Pages/TelemetryViewModel.h"
+#include "UI/Studio/Showroom/ShowroomViewModel.h"
+#include "UI/Studio/Sidebar/StudioTab.h"
+#include "UI/Studio/Stage/StageViewModel.h"
+#include "UI/Studio/WindowMenu/MainMenuViewModel.h"
 
 #include <QQmlEngine>
 #include <QStringList>

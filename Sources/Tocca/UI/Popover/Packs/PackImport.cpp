@@ -1,0 +1,53 @@
+#include "UI/Popover/Packs/PackImport.h"
+
+#include "Audio/PackImportError.h"
+#include "Audio/SoundPackLoader.h"
+#include "Platform/Host.h"
+#include "Platform/MainQueue.h"
+#include "Platform/OpenPanels.h"
+#include "Support/DisplayText.h"
+#include "UI/Popover/FileUrl.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tocca::ui {
+
+PackImport::PackImport(platform::Host& host, audio::SoundPackLoader& loader)
+    : host_(host)
+    , loader_(loader)
+{}
+
+void PackImport::openSoundPackImporter()
+{
+    host_.openPanels.chooseDirectory(
+        "Import Soundpack", lifetime_.guard([this](const std::optional<std::filesystem::path>& folder) {
+            if (folder) {
+                importFrom(*folder, "Failed to import: ");
+            }
+        }));
+}
+
+bool PackImport::handleDrop(const std::vector<std::string>& providers)
+{
+    const auto first = std::find_if(providers.begin(), providers.end(), isFileUrl);
+    if (first == providers.end()) {
+        return false;
+    }
+    if (auto folder = pathOfFileUrl(*first)) {
+        host_.mainQueue.post(
+            lifetime_.guard([this, folder = std::move(*folder)] { importFrom(folder, "Import failed: "); }));
+    }
+    return true;
+}
+
+void PackImport::importFrom(const std::filesystem::path& folder, std::string_view failure)
+{
+    try {
+        importMessage.set("Imported '" + displayText(loader_.importCustomPack(folder)) + "'!");
+    } catch (const audio::PackImportError& error) {
+        importMessage.set(std::string(failure) + error.what());
+    }
+}
+
+} // namespace tocca::ui
