@@ -1,5 +1,5 @@
-#include "Player/Limiter.h"
-#include "Player/Mixer.h"
+#include "Player/Mixing/Limiter.h"
+#include "Player/Mixing/Mixer.h"
 #include "Support/ThreadRole.h"
 
 #include <benchmark/benchmark.h>

@@ -1,7 +1,7 @@
-#include "Player/Decoder.h"
+#include "Player/Decoding/Decoder.h"
+#include "Player/Decoding/Resampler.h"
 #include "Player/EncodedSound.h"
 #include "Player/MixerAudioPlayers.h"
-#include "Player/Resampler.h"
 #include "Support/ThreadRole.h"
 
 #include <benchmark/benchmark.h>

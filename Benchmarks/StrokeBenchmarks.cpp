@@ -1,4 +1,4 @@
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Platform/Linux/System/Files/LinuxDirectories.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
 #include "Platform/Linux/System/Threads/Scheduling.h"

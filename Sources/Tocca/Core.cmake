@@ -10,15 +10,15 @@ app_module(tocca_core
         App/StatusIcon.cpp
         Audio/AcousticCatalogues.cpp
         Audio/AudioEngine.cpp
-        Audio/PackImporter.cpp
-        Audio/PackLibrary.cpp
-        Audio/PackManifest.cpp
-        Audio/PackStaging.cpp
         Audio/PeripheralSynthesis.cpp
-        Audio/SoundPackLoader.cpp
         Audio/SoundProfile.cpp
         Audio/SoundSlot.cpp
         Audio/StrokeShaping.cpp
+        Audio/Packs/PackImporter.cpp
+        Audio/Packs/PackLibrary.cpp
+        Audio/Packs/PackManifest.cpp
+        Audio/Packs/PackStaging.cpp
+        Audio/Packs/SoundPackLoader.cpp
         Keyboard/KeyboardMonitor.cpp
         Keyboard/TypingSpeed.cpp
         UI/Controllers.cpp
@@ -49,19 +49,19 @@ app_module(tocca_core
         Audio/AcousticCatalogues.h
         Audio/AudioEngine.h
         Audio/AudioSettings.h
-        Audio/PackImportError.h
-        Audio/PackImporter.h
-        Audio/PackLibrary.h
-        Audio/PackManifest.h
-        Audio/PackStaging.h
         Audio/PeripheralSynthesis.h
         Audio/PlayerPool.h
         Audio/RandomDraws.h
-        Audio/SoundPackInfo.h
-        Audio/SoundPackLoader.h
         Audio/SoundProfile.h
         Audio/SoundSlot.h
         Audio/StrokeShaping.h
+        Audio/Packs/PackImportError.h
+        Audio/Packs/PackImporter.h
+        Audio/Packs/PackLibrary.h
+        Audio/Packs/PackManifest.h
+        Audio/Packs/PackStaging.h
+        Audio/Packs/SoundPackInfo.h
+        Audio/Packs/SoundPackLoader.h
         Keyboard/Debouncer.h
         Keyboard/KeyboardMonitor.h
         Keyboard/TypingSpeed.h

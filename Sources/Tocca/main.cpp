@@ -7,8 +7,8 @@
 #include "Platform/Linux/Qt/RendererChoice.h"
 #include "Platform/Linux/Qt/TerminationSignals.h"
 #include "Platform/Linux/Qt/Windows/QuickView.h"
-#include "Player/Mixer.h"
 #include "Player/MixerAudioPlayers.h"
+#include "Player/Mixing/Mixer.h"
 #include "Support/ThreadRole.h"
 #include "UI/Interface.h"
 

@@ -24,6 +24,9 @@ LAYERS = {
 }
 LAYERS["main"] = set(LAYERS)
 
+# Folders of Platform that hold interfaces; its others are implementations.
+INTERFACES = {"Desktop"}
+
 # Headers of libraries and of the processor that a layer may use besides the standard library's.
 FOREIGN = {
     "Audio": {"simdjson.h"},
@@ -62,7 +65,7 @@ def layer(path):
         return "main" if parts[0] == "main.cpp" else None
     if VIEW.match(str(path)):
         return "UI/views"
-    if parts[0] == "Platform" and len(parts) > 2:
+    if parts[0] == "Platform" and len(parts) > 2 and parts[1] not in INTERFACES:
         return "/".join(parts[:2]) if "/".join(parts[:2]) in LAYERS else None
     return parts[0] if parts[0] in LAYERS else None
 

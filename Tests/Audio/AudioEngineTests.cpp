@@ -1,5 +1,5 @@
 #include "Audio/AudioEngine.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Audio/PackFolder.h"
-#include "Audio/PackLibrary.h"
+#include "Audio/Packs/PackLibrary.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <string>

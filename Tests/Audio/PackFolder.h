@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Audio/SoundPackInfo.h"
+#include "Audio/Packs/SoundPackInfo.h"
 #include "Platform/FileStore.h"
 #include "Platform/Files.h"
 #include "Support/Result.h"

@@ -1,5 +1,5 @@
 #include "Audio/ImportMachine.h"
-#include "Audio/PackImporter.h"
+#include "Audio/Packs/PackImporter.h"
 #include "Platform/FaultyFiles.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "Audio/ImportMachine.h"
-#include "Audio/PackImportError.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/PackImportError.h"
+#include "Audio/Packs/SoundPackLoader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "Audio/PackFolder.h"
-#include "Audio/PackLibrary.h"
-#include "Audio/PackStaging.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/PackLibrary.h"
+#include "Audio/Packs/PackStaging.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <gmock/gmock.h>

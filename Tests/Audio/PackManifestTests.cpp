@@ -1,4 +1,4 @@
-#include "Audio/PackManifest.h"
+#include "Audio/Packs/PackManifest.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "Audio/AudioEngine.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Audio/PeripheralSynthesis.h"
-#include "Audio/SoundPackLoader.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <gtest/gtest.h>

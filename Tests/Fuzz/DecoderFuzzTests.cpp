@@ -1,6 +1,6 @@
-#include "Player/Decoder.h"
+#include "Player/Decoding/Decoder.h"
+#include "Player/Decoding/Resampler.h"
 #include "Player/EncodedSound.h"
-#include "Player/Resampler.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "Player/Decoder.h"
-#include "Player/Downmix.h"
+#include "Player/Decoding/Decoder.h"
+#include "Player/Decoding/Downmix.h"
 #include "Player/EncodedSound.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
+#include "Player/Decoding/PcmClip.h"
+#include "Player/Decoding/Resampler.h"
 #include "Player/EncodedSound.h"
-#include "Player/Limiter.h"
-#include "Player/PcmClip.h"
-#include "Player/Resampler.h"
+#include "Player/Mixing/Limiter.h"
 
 #include <gtest/gtest.h>
 

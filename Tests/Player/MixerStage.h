@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Player/Mixer.h"
+#include "Player/Mixing/Mixer.h"
 #include "Support/ThreadRole.h"
 
 #include <algorithm>

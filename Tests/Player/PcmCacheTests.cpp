@@ -1,5 +1,5 @@
+#include "Player/Decoding/PcmCache.h"
 #include "Player/EncodedSound.h"
-#include "Player/PcmCache.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "Player/EncodedSound.h"
 #include "Player/MixerStage.h"
-#include "Player/Voice.h"
+#include "Player/Mixing/Voice.h"
 
 #include <gtest/gtest.h>
 

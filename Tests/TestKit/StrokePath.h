@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Audio/AudioEngine.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Host.h"
 #include "Platform/Linux/System/LinuxClock.h"

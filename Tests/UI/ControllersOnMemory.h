@@ -3,7 +3,7 @@
 #include "App/LaunchAtLogin.h"
 #include "App/SmartMuteManager.h"
 #include "Audio/AudioEngine.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Memory/MemoryHost.h"
 #include "UI/Controllers.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Audio/SoundPackInfo.h"
+#include "Audio/Packs/SoundPackInfo.h"
 
 #include <filesystem>
 

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "Audio/AudioEngine.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "ClickPack.h"
 #include "Keyboard/KeyboardMonitor.h"
 #include "Platform/Host.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 #include "Platform/Linux/LinuxHost.h"
 #include "Platform/Linux/System/LinuxStandardOutput.h"
-#include "Player/Mixer.h"
 #include "Player/MixerAudioPlayers.h"
-#include "Player/StrokeTrace.h"
+#include "Player/Mixing/Mixer.h"
+#include "Player/Mixing/StrokeTrace.h"
 #include "UI/NotchHUD/NotchAcousticHUDController.h"
 #include "UI/Underglow/SpatialUnderglowController.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/Application.h"
-#include "Platform/MainMenu.h"
+#include "Platform/Desktop/Application.h"
+#include "Platform/Desktop/MainMenu.h"
 #include "UI/ViewFactory.h"
 
 #include <functional>

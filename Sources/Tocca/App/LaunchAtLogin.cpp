@@ -1,7 +1,7 @@
 #include "App/LaunchAtLogin.h"
 
+#include "Platform/Desktop/LoginItem.h"
 #include "Platform/Host.h"
-#include "Platform/LoginItem.h"
 #include "Platform/MainQueue.h"
 #include "Platform/StandardOutput.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Workspace.h"
+#include "Platform/Desktop/Workspace.h"
 #include "Support/Lifetime.h"
 #include "Support/Published.h"
 #include "Support/Realtime.h"

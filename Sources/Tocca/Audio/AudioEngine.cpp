@@ -1,8 +1,8 @@
 #include "Audio/AudioEngine.h"
 
 #include "App/SmartMuteManager.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "Audio/RandomDraws.h"
-#include "Audio/SoundPackLoader.h"
 #include "Platform/Clock.h"
 #include "Platform/Haptics.h"
 #include "Platform/Host.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Audio/AcousticCatalogues.h"
-#include "Audio/SoundPackInfo.h"
+#include "Audio/Packs/SoundPackInfo.h"
 #include "Audio/SoundProfile.h"
 
 namespace tocca::audio {

@@ -2,6 +2,7 @@
 
 #include "Audio/AudioEngine.h"
 #include "Platform/Clock.h"
+#include "Platform/Desktop/Workspace.h"
 #include "Platform/Host.h"
 #include "Platform/LocalMonitor.h"
 #include "Platform/MainQueue.h"
@@ -9,7 +10,6 @@
 #include "Platform/Threads.h"
 #include "Platform/Timers.h"
 #include "Platform/TrustQuery.h"
-#include "Platform/Workspace.h"
 
 #include <string>
 

@@ -3,8 +3,8 @@
 #include "Platform/AudioPlayer.h"
 #include "Platform/Clock.h"
 #include "Player/AudioOutput.h"
-#include "Player/Mixer.h"
-#include "Player/VoiceRequest.h"
+#include "Player/Mixing/Mixer.h"
+#include "Player/Mixing/VoiceRequest.h"
 
 #include <memory>
 #include <optional>

@@ -3,8 +3,8 @@
 #include "Platform/AudioPlayer.h"
 #include "Platform/Clock.h"
 #include "Player/AudioOutput.h"
-#include "Player/Mixer.h"
-#include "Player/PcmCache.h"
+#include "Player/Decoding/PcmCache.h"
+#include "Player/Mixing/Mixer.h"
 
 #include <memory>
 

@@ -10,57 +10,57 @@ pkg_check_modules(soxr REQUIRED IMPORTED_TARGET soxr)
 
 # What depends on the processor is chosen here, by file, so that no source needs a condition.
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$")
-    set(processor_sources Player/X86/BestSincKernel.cpp Player/X86/DenormalGuard.cpp Player/X86/SincKernelAvx2.cpp)
-    set_source_files_properties(Player/X86/SincKernelAvx2.cpp PROPERTIES COMPILE_OPTIONS "-mavx2;-mfma")
+    set(processor_sources Player/Mixing/X86/BestSincKernel.cpp Player/Mixing/X86/DenormalGuard.cpp Player/Mixing/X86/SincKernelAvx2.cpp)
+    set_source_files_properties(Player/Mixing/X86/SincKernelAvx2.cpp PROPERTIES COMPILE_OPTIONS "-mavx2;-mfma")
 else()
-    set(processor_sources Player/Portable/BestSincKernel.cpp Player/Portable/DenormalGuard.cpp)
+    set(processor_sources Player/Mixing/Portable/BestSincKernel.cpp Player/Mixing/Portable/DenormalGuard.cpp)
 endif()
 
 app_module(tocca_player
     SOURCES
-        Player/Decoder.cpp
-        Player/Downmix.cpp
-        Player/Limiter.cpp
-        Player/Mixdown.cpp
-        Player/Mixer.cpp
         Player/MixerAudioPlayer.cpp
         Player/MixerAudioPlayers.cpp
-        Player/PcmCache.cpp
-        Player/PcmClip.cpp
-        Player/Resampler.cpp
-        Player/SincKernel.cpp
-        Player/SincTable.cpp
-        Player/SoundFile.cpp
-        Player/SoundFormat.cpp
-        Player/TruePeak.cpp
-        Player/Voice.cpp
-        Player/VoiceExchange.cpp
-        Player/VoiceList.cpp
+        Player/Decoding/Decoder.cpp
+        Player/Decoding/Downmix.cpp
+        Player/Decoding/PcmCache.cpp
+        Player/Decoding/PcmClip.cpp
+        Player/Decoding/Resampler.cpp
+        Player/Decoding/SoundFile.cpp
+        Player/Decoding/SoundFormat.cpp
+        Player/Mixing/Limiter.cpp
+        Player/Mixing/Mixdown.cpp
+        Player/Mixing/Mixer.cpp
+        Player/Mixing/SincKernel.cpp
+        Player/Mixing/SincTable.cpp
+        Player/Mixing/TruePeak.cpp
+        Player/Mixing/Voice.cpp
+        Player/Mixing/VoiceExchange.cpp
+        Player/Mixing/VoiceList.cpp
         ${processor_sources}
     HEADERS
-        Player/Decoder.h
-        Player/DenormalGuard.h
-        Player/Downmix.h
-        Player/Limiter.h
-        Player/Mixdown.h
-        Player/Mixer.h
         Player/MixerAudioPlayer.h
         Player/MixerAudioPlayers.h
-        Player/MixerStatistics.h
-        Player/PcmCache.h
-        Player/PcmClip.h
-        Player/Resampler.h
-        Player/SincKernel.h
-        Player/SincKernelBody.h
-        Player/SincTable.h
-        Player/SoundFile.h
-        Player/SoundFormat.h
-        Player/StrokeTrace.h
-        Player/TruePeak.h
-        Player/Voice.h
-        Player/VoiceExchange.h
-        Player/VoiceList.h
-        Player/VoiceRequest.h
-        Player/X86/SincKernelAvx2.h
+        Player/Decoding/Decoder.h
+        Player/Decoding/Downmix.h
+        Player/Decoding/PcmCache.h
+        Player/Decoding/PcmClip.h
+        Player/Decoding/Resampler.h
+        Player/Decoding/SoundFile.h
+        Player/Decoding/SoundFormat.h
+        Player/Mixing/DenormalGuard.h
+        Player/Mixing/Limiter.h
+        Player/Mixing/Mixdown.h
+        Player/Mixing/Mixer.h
+        Player/Mixing/MixerStatistics.h
+        Player/Mixing/SincKernel.h
+        Player/Mixing/SincKernelBody.h
+        Player/Mixing/SincTable.h
+        Player/Mixing/StrokeTrace.h
+        Player/Mixing/TruePeak.h
+        Player/Mixing/Voice.h
+        Player/Mixing/VoiceExchange.h
+        Player/Mixing/VoiceList.h
+        Player/Mixing/VoiceRequest.h
+        Player/Mixing/X86/SincKernelAvx2.h
     DEPENDS tocca_player_interface tocca_platform tocca_support
     PRIVATE_DEPENDS PkgConfig::sndfile PkgConfig::soxr)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Geometry.h"
+#include "Platform/Desktop/Geometry.h"
 
 /// The colours that both windows share. `Theme.qml` shows the same ones to the views.
 namespace tocca::ui::StudioTheme {

@@ -1,6 +1,6 @@
 #include "Audio/PackFolder.h"
-#include "Audio/PackImporter.h"
-#include "Audio/PackLibrary.h"
+#include "Audio/Packs/PackImporter.h"
+#include "Audio/Packs/PackLibrary.h"
 #include "Linux/System/ChildProcess.h"
 #include "Linux/System/TemporaryDirectory.h"
 #include "Platform/FaultyFiles.h"

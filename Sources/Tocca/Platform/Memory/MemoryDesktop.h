@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Platform/Application.h"
-#include "Platform/MainMenu.h"
-#include "Platform/OpenPanels.h"
-#include "Platform/Panels.h"
-#include "Platform/Popovers.h"
-#include "Platform/Screens.h"
-#include "Platform/StatusBar.h"
+#include "Platform/Desktop/Application.h"
+#include "Platform/Desktop/MainMenu.h"
+#include "Platform/Desktop/OpenPanels.h"
+#include "Platform/Desktop/Panels.h"
+#include "Platform/Desktop/Popovers.h"
+#include "Platform/Desktop/Screens.h"
+#include "Platform/Desktop/StatusBar.h"
+#include "Platform/Desktop/Windows.h"
 #include "Platform/UserDefaults.h"
-#include "Platform/Windows.h"
 #include "Support/Listeners.h"
 
 #include <functional>

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "Platform/AudioDevices.h"
+#include "Platform/Desktop/LoginItem.h"
+#include "Platform/Desktop/Workspace.h"
 #include "Platform/Haptics.h"
-#include "Platform/LoginItem.h"
 #include "Platform/Random.h"
 #include "Platform/StandardOutput.h"
 #include "Platform/TrustQuery.h"
-#include "Platform/Workspace.h"
 
 #include <deque>
 #include <memory>

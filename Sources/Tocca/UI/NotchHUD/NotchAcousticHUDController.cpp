@@ -2,11 +2,11 @@
 
 #include "Audio/AudioEngine.h"
 #include "Keyboard/KeyboardMonitor.h"
+#include "Platform/Desktop/Panels.h"
+#include "Platform/Desktop/Screens.h"
 #include "Platform/Host.h"
 #include "Platform/MainQueue.h"
-#include "Platform/Panels.h"
 #include "Platform/Random.h"
-#include "Platform/Screens.h"
 #include "Platform/Timers.h"
 #include "Platform/UserDefaults.h"
 #include "UI/ViewFactory.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/View.h"
+#include "Platform/Desktop/View.h"
 #include "Support/Lifetime.h"
 #include "Support/Published.h"
 #include "Support/Spring.h"

@@ -1,10 +1,10 @@
 #include "UI/Underglow/SpatialUnderglowController.h"
 
 #include "Audio/AudioEngine.h"
+#include "Platform/Desktop/Panels.h"
+#include "Platform/Desktop/Screens.h"
 #include "Platform/Host.h"
 #include "Platform/MainQueue.h"
-#include "Platform/Panels.h"
-#include "Platform/Screens.h"
 #include "Platform/Timers.h"
 #include "UI/Underglow/Glow.h"
 #include "UI/ViewFactory.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Geometry.h"
+#include "Platform/Desktop/Geometry.h"
 
 #include <array>
 #include <cstdint>

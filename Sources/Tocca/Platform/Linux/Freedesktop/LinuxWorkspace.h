@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Platform/Desktop/Workspace.h"
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntries.h"
 #include "Platform/Linux/System/SecureInput.h"
 #include "Platform/Linux/X11/DesktopWatch.h"
 #include "Platform/Timers.h"
-#include "Platform/Workspace.h"
 
 #include <QSocketNotifier>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Application.h"
+#include "Platform/Desktop/Application.h"
 #include "Platform/Linux/Freedesktop/ApplicationService.h"
 #include "Platform/Linux/Qt/Windows/OwnWindows.h"
 #include "Platform/StandardOutput.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Screens.h"
+#include "Platform/Desktop/Screens.h"
 #include "Support/Listeners.h"
 
 #include <QMetaObject>

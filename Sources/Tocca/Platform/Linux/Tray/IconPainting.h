@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/StatusBar.h"
+#include "Platform/Desktop/StatusBar.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "Platform/Desktop/StatusBar.h"
 #include "Platform/Linux/Qt/XDesktop.h"
 #include "Platform/Linux/Tray/DBusMenu.h"
 #include "Platform/Linux/Tray/EmbeddedIcon.h"
 #include "Platform/Linux/Tray/PopupMenu.h"
 #include "Platform/Linux/Tray/StatusNotifierItem.h"
 #include "Platform/Linux/Tray/StatusNotifierWatch.h"
-#include "Platform/StatusBar.h"
 
 #include <QRect>
 #include <QSocketNotifier>

@@ -1,10 +1,10 @@
 #include "UI/Popover/Packs/PackImport.h"
 
-#include "Audio/PackImportError.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/PackImportError.h"
+#include "Audio/Packs/SoundPackLoader.h"
+#include "Platform/Desktop/OpenPanels.h"
 #include "Platform/Host.h"
 #include "Platform/MainQueue.h"
-#include "Platform/OpenPanels.h"
 #include "Support/DisplayText.h"
 #include "UI/Popover/FileUrl.h"
 

@@ -1,8 +1,8 @@
 #include "UI/Studio/Pages/SettingsViewModel.h"
 
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
+#include "Platform/Desktop/Workspace.h"
 #include "Platform/Host.h"
-#include "Platform/Workspace.h"
 #include "Support/DisplayText.h"
 #include "UI/Studio/StudioText.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Audio/AudioEngine.h"
-#include "Audio/SoundPackLoader.h"
+#include "Audio/Packs/SoundPackLoader.h"
 #include "UI/Controllers.h"
 #include "UI/NotchHUD/NotchAcousticHUDController.h"
 #include "UI/Quick/UiProperty.h"

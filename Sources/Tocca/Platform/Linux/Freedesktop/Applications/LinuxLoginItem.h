@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/LoginItem.h"
+#include "Platform/Desktop/LoginItem.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Platform/Desktop/Workspace.h"
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntries.h"
-#include "Platform/Workspace.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/MainMenu.h"
+#include "Platform/Desktop/MainMenu.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Platform/Desktop/MainMenu.h"
 #include "Platform/Linux/Qt/Menu/MenuExport.h"
 #include "Platform/Linux/Qt/Menu/StandardActions.h"
 #include "Platform/Linux/Qt/Windows/OwnWindows.h"
-#include "Platform/MainMenu.h"
 #include "Support/Listeners.h"
 
 #include <functional>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Platform/Desktop/OpenPanels.h"
 #include "Platform/Linux/Freedesktop/FolderPortal.h"
 #include "Platform/Linux/Qt/Windows/FolderDialog.h"
 #include "Platform/Linux/Qt/Windows/OwnWindows.h"
-#include "Platform/OpenPanels.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Platform/Desktop/Panels.h"
 #include "Platform/Linux/Qt/Windows/OwnWindows.h"
 #include "Platform/Linux/Qt/XDesktop.h"
-#include "Platform/Panels.h"
 
 #include <vector>
 

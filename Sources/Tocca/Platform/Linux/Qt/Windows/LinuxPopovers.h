@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Platform/Desktop/Popovers.h"
 #include "Platform/Linux/Qt/Windows/OwnWindows.h"
-#include "Platform/Popovers.h"
 
 namespace tocca::platform::linux {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Platform/Desktop/Windows.h"
 #include "Platform/Linux/Qt/Windows/OwnWindows.h"
-#include "Platform/Windows.h"
 
 namespace tocca::platform::linux {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/View.h"
+#include "Platform/Desktop/View.h"
 
 #include <functional>
 #include <utility>

@@ -1,0 +1,147 @@
+#include "Audio/Packs/SoundPackLoader.h"
+
+#include "Audio/Packs/PackImportError.h"
+#include "Audio/Packs/PackImporter.h"
+#include "Audio/RandomDraws.h"
+#include "Platform/Directories.h"
+#include "Platform/FileStore.h"
+#include "Platform/Files.h"
+#include "Platform/Host.h"
+#include "Platform/MainQueue.h"
+#include "Support/ThreadRole.h"
+
+#include <initializer_list>
+#include <utility>
+
+namespace tocca::audio {
+
+SoundPackLoader::SoundPackLoader(platform::Host& host)
+    : host_(host)
+    , library_(host.files, host.fileStore)
+{
+    refreshCustomPacks();
+}
+
+SoundPackLoader& SoundPackLoader::shared()
+{
+    static auto& instance = *new SoundPackLoader(platform::defaultHost());
+    return instance;
+}
+
+std::filesystem::path SoundPackLoader::customPacksDirectory() const
+{
+    const auto support = host_.directories.applicationSupport();
+    if (!support) {
+        return {};
+    }
+    auto directory = *support / "Tocca/CustomSoundPacks";
+    // Without it the list stays empty, and an import says why.
+    static_cast<void>(host_.fileStore.makeDirectories(directory));
+    return directory;
+}
+
+void SoundPackLoader::refreshCustomPacks()
+{
+    requireThreadRole({ThreadRole::Main}, "SoundPackLoader::refreshCustomPacks");
+    const auto directory = customPacksDirectory();
+    if (directory.empty()) {
+        return;
+    }
+    auto packs = library_.packs(directory);
+    if (!packs) {
+        return;
+    }
+    host_.mainQueue.post(lifetime_.guard([this, found = std::move(packs.value())]() mutable {
+        std::stable_sort(found.begin(), found.end(),
+                         [](const auto& a, const auto& b) { return a.name < b.name; });
+        availableCustomPacks.set(std::move(found));
+    }));
+}
+
+std::string SoundPackLoader::importCustomPack(const std::filesystem::path& from)
+{
+    requireThreadRole({ThreadRole::Main}, "SoundPackLoader::importCustomPack");
+    const auto directory = customPacksDirectory();
+    if (directory.empty()) {
+        throw PackImportError({"the system names no folder for the user's data"});
+    }
+    const auto name = PackImporter(host_.files, host_.fileStore).import(from, directory);
+    if (!name) {
+        throw PackImportError(name.error());
+    }
+    refreshCustomPacks();
+    return name.value();
+}
+
+const PackTable& SoundPackLoader::loadPack(const std::string& id, const std::filesystem::path& folderURL)
+{
+    requireThreadRole({ThreadRole::AudioQueue}, "SoundPackLoader::loadPack");
+    if (const auto cached = soundPackDataCache_.find(id); cached != soundPackDataCache_.end()) {
+        return cached->second;
+    }
+    const auto names = host_.files.list(folderURL);
+    if (!names) {
+        static const PackTable kNothing;
+        return kNothing;
+    }
+    PackTable table;
+    for (const std::string& name : names.value()) {
+        const auto slot = SoundSlot::fromFileName(name);
+        if (!slot) {
+            continue;
+        }
+        if (auto bytes = host_.files.read(folderURL / name, kLargestFile)) {
+            table[slot->index()].push_back(std::move(bytes.value()));
+        }
+    }
+    return soundPackDataCache_.emplace(id, std::move(table)).first->second;
+}
+
+std::optional<std::filesystem::path> SoundPackLoader::builtInSoundPacksDirectory() const
+{
+    const auto firstOf = [this](const std::filesystem::path& base,
+                                std::initializer_list<const char*> places) {
+        for (const char* const place : places) {
+            if (auto directory = base / place; host_.files.exists(directory)) {
+                return std::optional(std::move(directory));
+            }
+        }
+        return std::optional<std::filesystem::path>();
+    };
+    // Nearly every stroke ends at the first of these, so no later place is worked out before it is needed.
+    if (const auto resources = host_.directories.resources()) {
+        if (auto found = firstOf(*resources, {"SoundPacks", "Resources/SoundPacks"})) {
+            return found;
+        }
+    }
+    if (auto found = firstOf(host_.directories.currentWorkingDirectory(),
+                             {"Sources/Tocca/Resources/SoundPacks", "Resources/SoundPacks"})) {
+        return found;
+    }
+    const auto support = host_.directories.applicationSupport();
+    return support ? firstOf(*support, {"Tocca/SoundPacks"}) : std::nullopt;
+}
+
+SharedBytes SoundPackLoader::sample(const std::filesystem::path& folderURL, const std::string& packId,
+                                    KeyCategory category, KeyStrokeAction action)
+{
+    const PackTable& table = loadPack(packId, folderURL);
+    for (const auto& slot : SoundSlot::chainFor(category, action)) {
+        if (slot && !table[slot->index()].empty()) {
+            const auto& variants = table[slot->index()];
+            return variants[drawIndex(host_.random, variants.size())];
+        }
+    }
+    return nullptr;
+}
+
+SharedBytes SoundPackLoader::sample(SwitchType switchType, KeyCategory category, KeyStrokeAction action)
+{
+    const auto directory = builtInSoundPacksDirectory();
+    if (!directory) {
+        return nullptr;
+    }
+    return sample(*directory / switchType.folderName(), std::string(switchType.rawValue()), category, action);
+}
+
+} // namespace tocca::audio
