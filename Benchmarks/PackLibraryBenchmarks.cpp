@@ -1,7 +1,7 @@
 #include "Audio/Packs/PackImporter.h"
 #include "Audio/Packs/PackLibrary.h"
 #include "Audio/Packs/SoundPackLoader.h"
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
 #include "Platform/Memory/MemoryHost.h"
@@ -30,12 +30,12 @@ std::string manifestOf(int pack)
 /// Reading every pack's manifest from the disk.
 void scan1000PacksOnDisk(benchmark::State& state)
 {
-    const platform::linux::TemporaryDirectory directory;
+    const instruments::TemporaryDirectory directory;
     for (int i = 0; i < kPacks; ++i) {
         const auto folder = directory.path() / ("folder " + std::to_string(i));
         std::filesystem::create_directory(folder);
-        platform::linux::TemporaryDirectory::write(folder / "tocca_meta.json", manifestOf(i));
-        platform::linux::TemporaryDirectory::write(folder / "press.wav", "");
+        instruments::TemporaryDirectory::write(folder / "tocca_meta.json", manifestOf(i));
+        instruments::TemporaryDirectory::write(folder / "press.wav", "");
     }
     const platform::linux::LinuxFiles files;
     platform::linux::LinuxFileStore store;
@@ -78,13 +78,13 @@ void importPackOnDisk(benchmark::State& state)
 {
     constexpr int kRecordings = 40;
     constexpr std::size_t kRecordingSize = 30'000;
-    const platform::linux::TemporaryDirectory directory;
+    const instruments::TemporaryDirectory directory;
     const auto source = directory.path() / "Alps";
     const auto library = directory.path() / "library";
     std::filesystem::create_directory(source);
     for (int i = 0; i < kRecordings; ++i) {
-        platform::linux::TemporaryDirectory::write(source / (std::to_string(i) + ".wav"),
-                                                   std::string(kRecordingSize, 'x'));
+        instruments::TemporaryDirectory::write(source / (std::to_string(i) + ".wav"),
+                                               std::string(kRecordingSize, 'x'));
     }
     const platform::linux::LinuxFiles files;
     platform::linux::LinuxFileStore store;

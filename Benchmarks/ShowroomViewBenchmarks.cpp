@@ -1,6 +1,6 @@
 #include "Showroom.h"
 
-#include "UI/ControllersOnMemory.h"
+#include "Instruments/ControllersOnMemory.h"
 #include "UI/Quick/QmlView.h"
 #include "UI/Studio/MainWindowViewModel.h"
 

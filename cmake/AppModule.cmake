@@ -56,7 +56,7 @@ function(app_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LABELS;PROPERTIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} tocca_options GTest::gmock GTest::gtest_main)
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/Tests)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/Tests ${PROJECT_SOURCE_DIR}/Tools)
     # A test waits for what it tests, not for itself; optimising its macros takes longer than running them.
     target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
     if(ARG_LABELS)

@@ -1,7 +1,7 @@
 #include "App/AppDelegate.h"
 #include "App/MainMenuTable.h"
 #include "App/StatusIcon.h"
-#include "UI/ControllersOnMemory.h"
+#include "Instruments/ControllersOnMemory.h"
 #include "UI/StudioTheme.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "EndToEnd/InterfaceAtWork.h"
 #include "EndToEnd/Tray.h"
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -69,7 +69,7 @@ TEST_F(Application, KeysTypedIntoTheTestFieldAreHeardOnceEach)
     })) << "the keyboard never reaches the test field";
 
     const std::vector<std::uint16_t> keys{KEY_T, KEY_O, KEY_C, KEY_C, KEY_A};
-    const testkit::Hearing hearing = typeAndHear(keys);
+    const instruments::Hearing hearing = typeAndHear(keys);
     EXPECT_EQ(hearing.heard(), keys.size());
     EXPECT_TRUE(hearing.others.empty());
     keepPicture("desktop-test-field");
@@ -83,7 +83,7 @@ TEST_F(Application, AFolderDroppedOntoThePopoverIsImported)
     std::filesystem::copy(std::filesystem::path(HOLY_PANDA_DIRECTORY), pack,
                           std::filesystem::copy_options::recursive |
                               std::filesystem::copy_options::overwrite_existing);
-    const testkit::Process fileManager({OTHER_PROGRAM, "20", "20", "120", "90", pack.string()});
+    const instruments::Process fileManager({OTHER_PROGRAM, "20", "20", "120", "90", pack.string()});
     const auto folderWindow = [&] {
         const auto windows = screen.windowsOf(fileManager.id());
         return windows.empty() ? std::nullopt : std::optional(windows.front());
@@ -124,7 +124,7 @@ TEST_F(Application, ClosingTheStudioHidesItAndASecondLaunchBringsItBack)
     ASSERT_TRUE(becomesTrue([this] { return !window(kStudio); })) << "the window stays";
     EXPECT_TRUE(program.isRunning());
 
-    testkit::Process second = startProgram();
+    instruments::Process second = startProgram();
     EXPECT_EQ(second.waitForExit(kDeadline), 0) << second.output();
     EXPECT_TRUE(becomesTrue([this] { return window(kStudio).has_value(); })) << program.output();
     EXPECT_TRUE(becomesTrue([this] { return screen.activeWindow() == kStudio; }));
@@ -134,18 +134,18 @@ TEST_F(Application, ClosingTheStudioHidesItAndASecondLaunchBringsItBack)
 TEST_F(Application, QuitEndsTheProcess)
 {
     openPopover();
-    const double from = testkit::now();
+    const double from = instruments::now();
     chord({KEY_LEFTCTRL, KEY_Q});
     EXPECT_EQ(program.waitForExit(kDeadline), 0) << program.output();
-    EXPECT_LT(testkit::now() - from, 5.0) << "meant: within a second on an idle computer";
+    EXPECT_LT(instruments::now() - from, 5.0) << "meant: within a second on an idle computer";
 }
 
 TEST(ApplicationWithoutTray, KeepsRunningAndSaysOnceHowItsWindowComesBack)
 {
     constexpr const char* kWhere = "Start it again to bring the window back.";
-    const testkit::XScreen screen;
-    testkit::XTestKeyboard hands;
-    testkit::Process program = startProgram();
+    const instruments::XScreen screen;
+    instruments::XTestKeyboard hands;
+    instruments::Process program = startProgram();
     ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
 
     for (int time = 0; time < 2; ++time) {
@@ -157,7 +157,7 @@ TEST(ApplicationWithoutTray, KeepsRunningAndSaysOnceHowItsWindowComesBack)
         ASSERT_TRUE(becomesTrue(
             [&] { return screen.windowsOf(program.id()).empty() || screen.activeWindow() != kStudio; }));
         ASSERT_TRUE(program.waitForLine(kWhere, kDeadline)) << program.output();
-        testkit::Process again = startProgram();
+        instruments::Process again = startProgram();
         EXPECT_EQ(again.waitForExit(kDeadline), 0) << again.output();
     }
     ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();

@@ -37,16 +37,16 @@ void InterfaceAtWork::chord(const std::vector<std::uint16_t>& keys)
 
 void InterfaceAtWork::listen()
 {
-    recorder = std::make_unique<testkit::MonitorRecorder>(300s, kDeadline);
-    ASSERT_TRUE(testkit::becomesAudible(hands, *recorder, kDeadline)) << program.output();
+    recorder = std::make_unique<instruments::MonitorRecorder>(300s, kDeadline);
+    ASSERT_TRUE(instruments::becomesAudible(hands, *recorder, kDeadline)) << program.output();
 }
 
-testkit::Hearing InterfaceAtWork::typeAndHear(std::span<const std::uint16_t> keys)
+instruments::Hearing InterfaceAtWork::typeAndHear(std::span<const std::uint16_t> keys)
 {
-    return testkit::typeAndHear(hands, *recorder, keys, {}, random, kDeadline);
+    return instruments::typeAndHear(hands, *recorder, keys, {}, random, kDeadline);
 }
 
-std::optional<testkit::VisibleWindow> InterfaceAtWork::window(const std::string& title)
+std::optional<instruments::VisibleWindow> InterfaceAtWork::window(const std::string& title)
 {
     const auto windows = screen.windowsOf(program.id());
     const auto match = std::find_if(windows.begin(), windows.end(),
@@ -69,7 +69,7 @@ void InterfaceAtWork::keepPicture(const std::string& name) const
             }
         }
     }
-    testkit::Process convert({"convert", raw.string(), (folder / (name + ".png")).string()});
+    instruments::Process convert({"convert", raw.string(), (folder / (name + ".png")).string()});
     EXPECT_EQ(convert.waitForExit(kDeadline), 0) << convert.output();
     std::filesystem::remove(raw);
 }

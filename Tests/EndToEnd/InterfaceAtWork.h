@@ -2,7 +2,7 @@
 
 #include "EndToEnd/ProgramAtWork.h"
 #include "EndToEnd/ScreenReader.h"
-#include "TestKit/XScreen.h"
+#include "Instruments/XScreen.h"
 
 #include <optional>
 #include <string>
@@ -26,19 +26,19 @@ protected:
     void listen();
 
     /// What is heard of `keys`, typed one after the other.
-    [[nodiscard]] testkit::Hearing typeAndHear(std::span<const std::uint16_t> keys);
+    [[nodiscard]] instruments::Hearing typeAndHear(std::span<const std::uint16_t> keys);
 
     /// The program's window of that title, if it is to be seen.
-    [[nodiscard]] std::optional<testkit::VisibleWindow> window(const std::string& title);
+    [[nodiscard]] std::optional<instruments::VisibleWindow> window(const std::string& title);
 
     /// Keeps a picture of the screen among those that people look at.
     void keepPicture(const std::string& name) const;
 
     ScreenReader reader;
-    testkit::Process program{startProgram({{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}})};
-    testkit::XScreen screen;
-    testkit::XTestKeyboard hands;
-    std::unique_ptr<testkit::MonitorRecorder> recorder;
+    instruments::Process program{startProgram({{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}})};
+    instruments::XScreen screen;
+    instruments::XTestKeyboard hands;
+    std::unique_ptr<instruments::MonitorRecorder> recorder;
     std::mt19937 random{20}; // NOLINT(cert-msc51-cpp): the same typing each time
 };
 

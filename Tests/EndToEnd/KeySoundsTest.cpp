@@ -1,6 +1,6 @@
 #include "EndToEnd/Likeness.h"
 #include "EndToEnd/ProgramAtWork.h"
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <gmock/gmock.h>
 #include <linux/input-event-codes.h>
@@ -18,7 +18,7 @@ using testing::Lt;
 constexpr double kSlowest = 0.98 * 0.98 - 0.002;
 constexpr double kFastest = 0.98 * 1.02 + 0.002;
 
-constexpr testkit::Rhythm kSlowly{.shortest = 0.3, .longest = 0.4};
+constexpr instruments::Rhythm kSlowly{.shortest = 0.3, .longest = 0.4};
 
 class KeySounds : public ProgramAtWork {};
 
@@ -27,11 +27,11 @@ TEST_F(KeySounds, EachOfTwoHundredQuickStrokesIsHeardOnce)
     constexpr int kRounds = 5;
     std::vector<std::uint16_t> keys;
     for (int round = 0; round < kRounds; ++round) {
-        const auto forty = testkit::ordinaryKeys();
+        const auto forty = instruments::ordinaryKeys();
         const auto begin = keys.insert(keys.end(), forty.begin(), forty.end());
         std::shuffle(begin, keys.end(), random);
     }
-    const testkit::Hearing hearing = typeAndHear(keys, {});
+    const instruments::Hearing hearing = typeAndHear(keys, {});
     EXPECT_EQ(hearing.heard(), keys.size());
     EXPECT_EQ(hearing.others.size(), 0U);
 }
@@ -59,7 +59,7 @@ TEST_F(KeySounds, KeysSoundFromWhereTheyAre)
     for (const Row& row : rows) {
         keys.push_back(row.key);
     }
-    const testkit::Hearing hearing = typeAndHear(keys, kSlowly);
+    const instruments::Hearing hearing = typeAndHear(keys, kSlowly);
     EXPECT_EQ(hearing.others.size(), 0U);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         SCOPED_TRACE(rows[i].name);
@@ -87,8 +87,8 @@ TEST_F(KeySounds, EachKindOfKeySoundsWithItsOwnRecordings)
     for (const Row& row : rows) {
         keys.push_back(row.key);
     }
-    const testkit::Hearing hearing = typeAndHear(keys, kSlowly);
-    const testkit::Recording recording = recorder->recording();
+    const instruments::Hearing hearing = typeAndHear(keys, kSlowly);
+    const instruments::Recording recording = recorder->recording();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         SCOPED_TRACE(rows[i].slot);
         ASSERT_TRUE(hearing.ofStroke[i].has_value());
@@ -111,7 +111,7 @@ TEST_F(KeySounds, AHeldKeySoundsOnce)
 TEST_F(KeySounds, CapsLockSoundsWhenItTurnsOnAndNotWhenItTurnsOff)
 {
     constexpr std::array<std::uint16_t, 2> kOnAndOff{KEY_CAPSLOCK, KEY_CAPSLOCK};
-    const testkit::Hearing hearing = typeAndHear(kOnAndOff, kSlowly);
+    const instruments::Hearing hearing = typeAndHear(kOnAndOff, kSlowly);
     EXPECT_TRUE(hearing.ofStroke[0].has_value());
     EXPECT_FALSE(hearing.ofStroke[1].has_value());
     EXPECT_EQ(hearing.others.size(), 0U);
@@ -126,7 +126,7 @@ TEST_F(KeySounds, AModifierSoundsOnceAndSoDoesTheKeyThatItModifies)
     keyboard.release(KEY_L);
     keyboard.release(KEY_LEFTSHIFT);
     std::this_thread::sleep_for(300ms);
-    const std::vector<testkit::Sound> sounds = soundsSince(from);
+    const std::vector<instruments::Sound> sounds = soundsSince(from);
     ASSERT_EQ(sounds.size(), 2U);
     EXPECT_LT(sounds[0].onset.balance(), -0.4);
     EXPECT_GT(sounds[1].onset.balance(), 0.4);

@@ -1,5 +1,5 @@
 #include "EndToEnd/ProgramAtWork.h"
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -33,7 +33,7 @@ struct SoundServerTakenAway {
     bool isBack = false;
 };
 
-void expectCleanEnd(testkit::Process& program)
+void expectCleanEnd(instruments::Process& program)
 {
     program.signal(SIGTERM);
     EXPECT_EQ(program.waitForExit(kDeadline), 0) << program.output();
@@ -52,25 +52,25 @@ TEST_F(Lifecycle, IsHeardAgainAfterTheSoundServerWasKilledAndStartedAnew)
     recorder.reset();
     SoundServerTakenAway server;
     constexpr std::array<std::uint16_t, 3> kIntoTheVoid{KEY_A, KEY_B, KEY_C};
-    (void)testkit::type(keyboard, kIntoTheVoid, {}, random);
+    (void)instruments::type(keyboard, kIntoTheVoid, {}, random);
     EXPECT_TRUE(program.isRunning()) << program.output();
 
     server.bringBack();
     recordAgain();
-    EXPECT_TRUE(testkit::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
+    EXPECT_TRUE(instruments::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
     expectCleanEnd(program);
 }
 
 TEST(LifecycleWithoutSound, SaysOnceThatItIsSilentAndRunsOn)
 {
     const SoundServerTakenAway server;
-    testkit::Process program = startProgram();
+    instruments::Process program = startProgram();
     ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
     ASSERT_TRUE(program.waitForLine("No sound:", kDeadline)) << program.output();
 
-    testkit::XTestKeyboard keyboard;
+    instruments::XTestKeyboard keyboard;
     std::mt19937 random(3); // NOLINT(cert-msc51-cpp,cert-msc32-c): the same typing each time
-    (void)testkit::type(keyboard, testkit::ordinaryKeys(), {}, random);
+    (void)instruments::type(keyboard, instruments::ordinaryKeys(), {}, random);
     EXPECT_TRUE(program.isRunning()) << program.output();
     EXPECT_EQ(program.countLines("No sound:"), 1) << program.output();
     expectCleanEnd(program);
@@ -79,7 +79,8 @@ TEST(LifecycleWithoutSound, SaysOnceThatItIsSilentAndRunsOn)
 TEST(LifecycleWithoutDisplay, SaysOnceThatItCannotListenAndWaits)
 {
     constexpr const char* kRefused = "Cannot start: Accessibility permission not granted yet.";
-    testkit::Process program = startProgram({{"DISPLAY", std::nullopt}, {"WAYLAND_DISPLAY", std::nullopt}});
+    instruments::Process program =
+        startProgram({{"DISPLAY", std::nullopt}, {"WAYLAND_DISPLAY", std::nullopt}});
     ASSERT_TRUE(program.waitForLine(kRefused, kDeadline)) << program.output();
     EXPECT_FALSE(program.waitForLine(kRefused, 4s, 2)) << "it asks every 1.5 s, but says so once";
     EXPECT_TRUE(program.isRunning()) << program.output();

@@ -62,8 +62,8 @@ protected:
         return static_cast<double>(dark) / static_cast<double>(place.pixels.size());
     }
 
-    testkit::Process compositor{{"picom", "--backend", "xrender", "--config", "/dev/null"}};
-    std::optional<testkit::Process> other;
+    instruments::Process compositor{{"picom", "--backend", "xrender", "--config", "/dev/null"}};
+    std::optional<instruments::Process> other;
 };
 
 TEST_F(Overlays, TheGlowFollowsTheKeysAndGoesOut)

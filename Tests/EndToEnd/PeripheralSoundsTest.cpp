@@ -1,5 +1,5 @@
 #include "EndToEnd/ProgramAtWork.h"
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <algorithm>
 #include <array>
@@ -25,10 +25,10 @@ protected:
         std::this_thread::sleep_for(100ms);
         keyboard.releaseButton(button);
         EXPECT_EQ(soundsSince(from).size(), 1U);
-        const testkit::Recording recording = recorder->recording();
+        const instruments::Recording recording = recorder->recording();
         float peak = 0.0F;
         float difference = 0.0F;
-        const auto samples = recording.between(from, testkit::now());
+        const auto samples = recording.between(from, instruments::now());
         for (std::size_t i = 0; i + 1 < samples.size(); i += 2) {
             peak = std::max(peak, samples[i]);
             difference = std::max(difference, std::abs(samples[i] - samples[i + 1]));

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "TestKit/Hearing.h"
-#include "TestKit/MonitorRecorder.h"
-#include "TestKit/Process.h"
-#include "TestKit/Rehearsal.h"
-#include "TestKit/XScreen.h"
-#include "TestKit/XTestKeyboard.h"
-#include "TestKit/XWindow.h"
+#include "Instruments/Hearing.h"
+#include "Instruments/MonitorRecorder.h"
+#include "Instruments/Process.h"
+#include "Instruments/Rehearsal.h"
+#include "Instruments/XScreen.h"
+#include "Instruments/XTestKeyboard.h"
+#include "Instruments/XWindow.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ inline constexpr const char* kListens =
 inline constexpr std::chrono::seconds kDeadline{20};
 
 /// The program under test, started with changes to its environment.
-[[nodiscard]] testkit::Process startProgram(const testkit::Process::Environment& changes = {});
+[[nodiscard]] instruments::Process startProgram(const instruments::Process::Environment& changes = {});
 
 /// Waits until `condition` holds; false when the deadline passes first.
 [[nodiscard]] bool becomesTrue(const std::function<bool()>& condition);
@@ -41,20 +41,20 @@ protected:
     void SetUp() override;
 
     /// Types `keys` and returns what was heard of them, waiting for the end of the last sound.
-    [[nodiscard]] testkit::Hearing typeAndHear(std::span<const std::uint16_t> keys,
-                                               const testkit::Rhythm& rhythm);
+    [[nodiscard]] instruments::Hearing typeAndHear(std::span<const std::uint16_t> keys,
+                                                   const instruments::Rhythm& rhythm);
 
     /// What is heard from `from` (seconds) to now, waiting until now has been recorded.
-    [[nodiscard]] std::vector<testkit::Sound> soundsSince(double from);
+    [[nodiscard]] std::vector<instruments::Sound> soundsSince(double from);
 
     /// Begins to record anew, which the end of a sound server makes necessary.
     void recordAgain();
 
-    testkit::Process program{startProgram()};
-    testkit::XScreen screen;
-    std::unique_ptr<testkit::XWindow> elsewhere;
-    std::unique_ptr<testkit::MonitorRecorder> recorder;
-    testkit::XTestKeyboard keyboard;
+    instruments::Process program{startProgram()};
+    instruments::XScreen screen;
+    std::unique_ptr<instruments::XWindow> elsewhere;
+    std::unique_ptr<instruments::MonitorRecorder> recorder;
+    instruments::XTestKeyboard keyboard;
     std::mt19937 random{20}; // NOLINT(cert-msc51-cpp): the same typing each time
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "EndToEnd/ProgramAtWork.h"
-#include "TestKit/Process.h"
+#include "Instruments/Process.h"
 
 #include <chrono>
 #include <memory>
@@ -50,7 +50,7 @@ public:
 private:
     class Bus;
 
-    testkit::Process launcher_;
+    instruments::Process launcher_;
     std::unique_ptr<Bus> bus_;
 };
 

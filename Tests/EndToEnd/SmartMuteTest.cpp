@@ -1,6 +1,6 @@
 #include "EndToEnd/ProgramAtWork.h"
-#include "TestKit/Now.h"
-#include "TestKit/XWindow.h"
+#include "Instruments/Now.h"
+#include "Instruments/XWindow.h"
 
 #include <array>
 #include <cstdio>
@@ -14,9 +14,9 @@ namespace tocca::endtoend {
 namespace {
 
 using namespace std::chrono_literals;
-using testkit::now;
-using testkit::Process;
-using testkit::XWindow;
+using instruments::now;
+using instruments::Process;
+using instruments::XWindow;
 
 /// Seconds within which a call must be noticed. It is looked for every 1.5 s; the rest is for a busy computer.
 constexpr double kNoticed = 3.0;
@@ -31,7 +31,7 @@ protected:
     }
 
     /// Strikes a key again and again until `end`, and returns when what was heard since began.
-    std::vector<testkit::Sound> typeUntil(double end)
+    std::vector<instruments::Sound> typeUntil(double end)
     {
         const double from = now();
         while (now() < end) {
@@ -56,7 +56,7 @@ protected:
         while (now() < last + kSilence) {
             const double struck = now();
             strike();
-            for (const testkit::Sound& sound : soundsSince(struck)) {
+            for (const instruments::Sound& sound : soundsSince(struck)) {
                 last = sound.time;
             }
             if (now() > from + kNoticed + kSilence) {
@@ -81,7 +81,7 @@ protected:
         return false;
     }
 
-    bool becomesAudible() { return testkit::becomesAudible(keyboard, *recorder, kDeadline); }
+    bool becomesAudible() { return instruments::becomesAudible(keyboard, *recorder, kDeadline); }
 
     void click(std::uint8_t button)
     {

@@ -1,6 +1,6 @@
 #include "EndToEnd/InterfaceAtWork.h"
 #include "EndToEnd/Likeness.h"
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@ namespace tocca::endtoend {
 namespace {
 
 using namespace std::chrono_literals;
-using testkit::now;
+using instruments::now;
 
 constexpr const char* kStudio = "Tocca Studio";
 constexpr const char* kImported = "Walnut Board";
@@ -49,7 +49,7 @@ protected:
     std::string soundOfAKey()
     {
         std::this_thread::sleep_for(300ms); // beyond the sound of what was chosen
-        const testkit::Hearing hearing = typeAndHear(std::array<std::uint16_t, 1>{KEY_G});
+        const instruments::Hearing hearing = typeAndHear(std::array<std::uint16_t, 1>{KEY_G});
         if (hearing.heard() != 1) {
             return "silence";
         }

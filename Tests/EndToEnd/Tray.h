@@ -1,7 +1,7 @@
 #pragma once
 
-#include "TestKit/Process.h"
-#include "TestKit/XScreen.h"
+#include "Instruments/Process.h"
+#include "Instruments/XScreen.h"
 
 #include <memory>
 #include <optional>
@@ -19,8 +19,8 @@ public:
     [[nodiscard]] std::optional<std::pair<int, int>> icon();
 
 private:
-    testkit::Process panel_;
-    testkit::XScreen screen_;
+    instruments::Process panel_;
+    instruments::XScreen screen_;
 };
 
 } // namespace tocca::endtoend

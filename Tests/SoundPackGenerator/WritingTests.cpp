@@ -1,3 +1,4 @@
+#include "Instruments/TemporaryDirectory.h"
 #include "Model/Packs.h"
 #include "Output/PackWriter.h"
 #include "Output/WavFile.h"
@@ -15,29 +16,9 @@
 namespace tocca::soundpack {
 namespace {
 
+using instruments::TemporaryDirectory;
+
 namespace fs = std::filesystem;
-
-class TemporaryDirectory {
-public:
-    TemporaryDirectory()
-        : path_(fs::temp_directory_path() / ("sound-packs-" + std::to_string(::getpid())))
-    {
-        fs::remove_all(path_);
-        fs::create_directories(path_);
-    }
-
-    ~TemporaryDirectory() { fs::remove_all(path_); }
-
-    TemporaryDirectory(const TemporaryDirectory&) = delete;
-    TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
-
-    fs::path operator/(const char* name) const { return path_ / name; }
-
-    const fs::path& path() const { return path_; }
-
-private:
-    fs::path path_;
-};
 
 /// While it lives, no file can grow beyond `bytes`: the way a full disk answers.
 class SmallDisk {
@@ -74,8 +55,8 @@ TEST(WavFile, ComesBackAsItWasWritten)
 {
     const TemporaryDirectory directory;
     const std::vector<std::int16_t> samples{0, 1, -1, 32767, -32768, 12345};
-    ASSERT_TRUE(writeFile(directory / "a.wav", wavBytes(samples)));
-    const auto read = readWav(directory / "a.wav");
+    ASSERT_TRUE(writeFile(directory.path() / "a.wav", wavBytes(samples)));
+    const auto read = readWav(directory.path() / "a.wav");
     ASSERT_TRUE(read);
     EXPECT_EQ(read.value().samples, samples);
     EXPECT_EQ(read.value().sampleRate, 48000);
@@ -89,37 +70,37 @@ TEST(WavFile, IsRefusedWhenItIsDamaged)
     const std::string whole = wavBytes(std::vector<std::int16_t>(100));
     for (const std::string& damaged :
          {std::string(), whole.substr(0, 20), whole.substr(0, 100), "x" + whole, whole + "x"}) {
-        ASSERT_TRUE(writeFile(directory / "a.wav", damaged));
-        EXPECT_FALSE(readWav(directory / "a.wav")) << damaged.size();
+        ASSERT_TRUE(writeFile(directory.path() / "a.wav", damaged));
+        EXPECT_FALSE(readWav(directory.path() / "a.wav")) << damaged.size();
     }
-    EXPECT_FALSE(readWav(directory / "missing.wav"));
+    EXPECT_FALSE(readWav(directory.path() / "missing.wav"));
 }
 
 TEST(WritingAFile, OnAFullDiskKeepsTheOldOneAndSaysSo)
 {
     const TemporaryDirectory directory;
-    ASSERT_TRUE(writeFile(directory / "a.wav", "old"));
+    ASSERT_TRUE(writeFile(directory.path() / "a.wav", "old"));
     {
         const SmallDisk full(1000);
-        const auto written = writeFile(directory / "a.wav", std::string(100'000, 'x'));
+        const auto written = writeFile(directory.path() / "a.wav", std::string(100'000, 'x'));
         ASSERT_FALSE(written);
         EXPECT_NE(written.error().describe().find("a.wav: File too large"), std::string::npos)
             << written.error().describe();
     }
-    EXPECT_EQ(contentOf(directory / "a.wav"), "old");
+    EXPECT_EQ(contentOf(directory.path() / "a.wav"), "old");
     EXPECT_EQ(countEntries(directory.path()), 1U);
 }
 
 TEST(WritingPacks, FailsWithTheNameOfWhatCannotBeWritten)
 {
     const TemporaryDirectory directory;
-    ASSERT_TRUE(writeFile(directory / "occupied", "a file where a directory is wanted"));
-    const auto occupied = writePacks({mxBlue()}, directory / "occupied");
+    ASSERT_TRUE(writeFile(directory.path() / "occupied", "a file where a directory is wanted"));
+    const auto occupied = writePacks({mxBlue()}, directory.path() / "occupied");
     ASSERT_FALSE(occupied);
     EXPECT_NE(occupied.error().describe().find("occupied"), std::string::npos);
 
     const SmallDisk full(1000);
-    const auto written = writePacks({mxBlue()}, directory / "full");
+    const auto written = writePacks({mxBlue()}, directory.path() / "full");
     ASSERT_FALSE(written);
     EXPECT_NE(written.error().describe().find("mx-blue"), std::string::npos);
 }

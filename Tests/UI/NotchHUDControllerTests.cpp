@@ -1,4 +1,4 @@
-#include "UI/ControllersOnMemory.h"
+#include "Instruments/ControllersOnMemory.h"
 #include "UI/NotchHUD/Waveform.h"
 
 #include <gtest/gtest.h>

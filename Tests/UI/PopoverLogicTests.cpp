@@ -1,4 +1,4 @@
-#include "UI/ControllersOnMemory.h"
+#include "Instruments/ControllersOnMemory.h"
 #include "UI/Popover/FileUrl.h"
 #include "UI/Popover/Packs/CommunityPage.h"
 #include "UI/Popover/Packs/PackImport.h"

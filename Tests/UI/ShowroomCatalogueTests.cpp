@@ -1,4 +1,4 @@
-#include "UI/ControllersOnMemory.h"
+#include "Instruments/ControllersOnMemory.h"
 #include "UI/Studio/Showroom/ShowroomCatalogue.h"
 #include "UI/Studio/Showroom/SwitchSelection.h"
 #include "UI/Studio/Showroom/SwitchTraits.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UI/ControllersOnMemory.h"
+#include "Instruments/ControllersOnMemory.h"
 
 #include <QImage>
 #include <QQmlEngine>

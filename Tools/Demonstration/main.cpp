@@ -1,7 +1,7 @@
+#include "Instruments/Now.h"
+#include "Instruments/Process.h"
+#include "Instruments/Rehearsal.h"
 #include "Sentence.h"
-#include "TestKit/Now.h"
-#include "TestKit/Process.h"
-#include "TestKit/Rehearsal.h"
 
 #include <csignal>
 #include <cstdio>
@@ -18,7 +18,7 @@ using namespace tocca;
 
 constexpr const char* kSentence = "the quick brown fox jumps over the lazy dog";
 constexpr const char* kListens = "tap thread running permanently!";
-constexpr testkit::Rhythm kLeisurely{.shortest = 0.07, .longest = 0.19};
+constexpr instruments::Rhythm kLeisurely{.shortest = 0.07, .longest = 0.19};
 constexpr std::chrono::seconds kDeadline{20};
 constexpr std::chrono::seconds kCapacity{120};
 constexpr double kLeadIn = 0.5; // seconds of the recording before the first key
@@ -31,21 +31,23 @@ void require(bool condition, const std::string& complaint)
 }
 
 /// Types the sentence to `program`, keeps what was heard, and tells whether that was every key once.
-bool typeTheSentence(testkit::Process& program, const std::filesystem::path& wav)
+bool typeTheSentence(instruments::Process& program, const std::filesystem::path& wav)
 {
     require(program.waitForLine(kListens, kDeadline), "the program does not listen:\n" + program.output());
-    testkit::XTestKeyboard keyboard;
-    const testkit::MonitorRecorder recorder(kCapacity, kDeadline);
-    require(testkit::becomesAudible(keyboard, recorder, kDeadline), "no key is heard:\n" + program.output());
+    instruments::XTestKeyboard keyboard;
+    const instruments::MonitorRecorder recorder(kCapacity, kDeadline);
+    require(instruments::becomesAudible(keyboard, recorder, kDeadline),
+            "no key is heard:\n" + program.output());
 
     std::vector<std::uint16_t> keys = demonstration::keysFor(kSentence);
     keys.push_back(KEY_ENTER);
     std::mt19937 random(1); // NOLINT(cert-msc51-cpp,cert-msc32-c): the same typing each time
-    const double began = testkit::now();
-    const testkit::Hearing hearing =
-        testkit::typeAndHear(keyboard, recorder, keys, kLeisurely, random, kDeadline);
-    const testkit::Recording recording = recorder.recording();
-    require(testkit::writeWav(recording.between(began - kLeadIn, testkit::now()), recording.sampleRate, wav),
+    const double began = instruments::now();
+    const instruments::Hearing hearing =
+        instruments::typeAndHear(keyboard, recorder, keys, kLeisurely, random, kDeadline);
+    const instruments::Recording recording = recorder.recording();
+    require(instruments::writeWav(recording.between(began - kLeadIn, instruments::now()),
+                                  recording.sampleRate, wav),
             "cannot write " + wav.string());
 
     std::printf("%s: %zu keys typed, %zu heard, %zu other sounds\n", wav.c_str(), keys.size(),
@@ -55,7 +57,7 @@ bool typeTheSentence(testkit::Process& program, const std::filesystem::path& wav
 
 void takeScreenshot(const std::filesystem::path& png)
 {
-    testkit::Process import({"import", "-window", "root", png.string()});
+    instruments::Process import({"import", "-window", "root", png.string()});
     require(import.waitForExit(kDeadline) == 0, "no screenshot: " + import.output());
     std::printf("%s: the screen meanwhile\n", png.c_str());
 }
@@ -71,7 +73,7 @@ int main(int argc, char** argv)
     try {
         const std::filesystem::path directory(argv[2]);
         std::filesystem::create_directories(directory);
-        testkit::Process program({argv[1]});
+        instruments::Process program({argv[1]});
         const bool isEachHeardOnce = typeTheSentence(program, directory / "typing.wav");
         takeScreenshot(directory / "screen.png");
         program.signal(SIGTERM);

@@ -1,12 +1,10 @@
 #include "ClickPack.h"
 
-#include "TestKit/Recording.h"
+#include "Instruments/Recording.h"
 
 #include <cmath>
-#include <cstdlib>
 #include <numbers>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
 namespace tocca::latency {
@@ -32,35 +30,19 @@ std::vector<float> click(double sampleRate)
     return samples;
 }
 
-std::filesystem::path makeTemporaryDirectory()
-{
-    std::string name = (std::filesystem::temp_directory_path() / "latency.XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("cannot make a temporary directory");
-    }
-    return name;
-}
-
 } // namespace
 
 ClickPack::ClickPack()
-    : folder_(makeTemporaryDirectory())
 {
     constexpr double kSampleRate = 48000.0;
-    if (!testkit::writeWav(click(kSampleRate), kSampleRate, folder_ / "press_standard_1.wav")) {
+    if (!instruments::writeWav(click(kSampleRate), kSampleRate, folder_.path() / "press_standard_1.wav")) {
         throw std::runtime_error("cannot write the click");
     }
 }
 
-ClickPack::~ClickPack()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-}
-
 audio::SoundPackInfo ClickPack::info() const
 {
-    return {.id = "custom_click", .name = "Click", .description = "", .folderURL = folder_};
+    return {.id = "custom_click", .name = "Click", .description = "", .folderURL = folder_.path()};
 }
 
 } // namespace tocca::latency

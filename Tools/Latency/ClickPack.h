@@ -1,8 +1,7 @@
 #pragma once
 
 #include "Audio/Packs/SoundPackInfo.h"
-
-#include <filesystem>
+#include "Instruments/TemporaryDirectory.h"
 
 namespace tocca::latency {
 
@@ -14,15 +13,11 @@ class ClickPack {
 public:
     /// Errors: throws `std::runtime_error` when the files cannot be written.
     ClickPack();
-    ~ClickPack();
-
-    ClickPack(const ClickPack&) = delete;
-    ClickPack& operator=(const ClickPack&) = delete;
 
     [[nodiscard]] audio::SoundPackInfo info() const;
 
 private:
-    std::filesystem::path folder_;
+    instruments::TemporaryDirectory folder_;
 };
 
 } // namespace tocca::latency

@@ -1,8 +1,8 @@
 #include "Measurement.h"
 
+#include "Instruments/Now.h"
+#include "Instruments/Rehearsal.h"
 #include "Subject.h"
-#include "TestKit/Now.h"
-#include "TestKit/Rehearsal.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,7 +19,7 @@ std::vector<std::uint16_t> keysFor(int strokes)
 {
     std::vector<std::uint16_t> keys;
     keys.reserve(static_cast<std::size_t>(strokes));
-    const auto ordinary = testkit::ordinaryKeys();
+    const auto ordinary = instruments::ordinaryKeys();
     for (int i = 0; i < strokes; ++i) {
         keys.push_back(ordinary[static_cast<std::size_t>(i) % ordinary.size()]);
     }
@@ -27,7 +27,7 @@ std::vector<std::uint16_t> keysFor(int strokes)
 }
 
 /// Fills in what the sink's monitor tells.
-void compare(const testkit::Hearing& hearing, Figures& figures)
+void compare(const instruments::Hearing& hearing, Figures& figures)
 {
     std::optional<double> previous;
     for (std::size_t i = 0; i < hearing.strokes.size(); ++i) {
@@ -51,21 +51,21 @@ void compare(const testkit::Hearing& hearing, Figures& figures)
 Figures measure(Subject& subject, const Condition& condition)
 {
     subject.post([&subject, shown = condition.hasOverlays] { subject.setOverlaysEnabled(shown); });
-    testkit::XTestKeyboard keyboard;
-    const testkit::MonitorRecorder recorder(
+    instruments::XTestKeyboard keyboard;
+    const instruments::MonitorRecorder recorder(
         std::chrono::seconds(static_cast<int>(condition.strokes * kLongestStroke) + 60), kDeadline);
-    if (!testkit::becomesAudible(keyboard, recorder, kDeadline)) {
+    if (!instruments::becomesAudible(keyboard, recorder, kDeadline)) {
         throw std::runtime_error("no key is heard");
     }
     (void)subject.takeTimesToFirstSample();
     const std::uint64_t missedBefore = subject.output().missedCycles;
     const std::uint64_t framesBefore = subject.framesPainted();
     const double workBefore = subject.mainThreadWork();
-    const double began = testkit::now();
+    const double began = instruments::now();
 
     std::mt19937 random(5); // NOLINT(cert-msc51-cpp,cert-msc32-c): the same typing each time
-    const testkit::Hearing hearing = testkit::typeAndHear(keyboard, recorder, keysFor(condition.strokes),
-                                                          condition.rhythm, random, kDeadline);
+    const instruments::Hearing hearing = instruments::typeAndHear(
+        keyboard, recorder, keysFor(condition.strokes), condition.rhythm, random, kDeadline);
 
     Figures figures;
     figures.condition = condition.name;
@@ -74,7 +74,7 @@ Figures measure(Subject& subject, const Condition& condition)
     figures.missedCycles = subject.output().missedCycles - missedBefore;
     figures.frames = subject.framesPainted() - framesBefore;
     figures.mainThreadWork = subject.mainThreadWork() - workBefore;
-    figures.duration = testkit::now() - began;
+    figures.duration = instruments::now() - began;
     figures.toFirstSample = subject.takeTimesToFirstSample();
     compare(hearing, figures);
     return figures;

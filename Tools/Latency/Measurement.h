@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Figures.h"
-#include "TestKit/Typist.h"
+#include "Instruments/Typist.h"
 
 #include <string>
 
@@ -13,7 +13,7 @@ class Subject;
 struct Condition {
     std::string name;
     int strokes = 0;
-    testkit::Rhythm rhythm;
+    instruments::Rhythm rhythm;
     bool hasOverlays = false;
 };
 

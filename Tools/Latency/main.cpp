@@ -1,8 +1,8 @@
+#include "Instruments/Process.h"
 #include "Measurement.h"
 #include "Platform/Linux/Qt/RendererChoice.h"
 #include "Subject.h"
 #include "Support/ThreadRole.h"
-#include "TestKit/Process.h"
 
 #include <QGuiApplication>
 #include <QtQml/QQmlExtensionPlugin>
@@ -23,19 +23,19 @@ using namespace tocca;
 
 constexpr int kStrokes = 500;
 constexpr int kBusyLoops = 4;
-constexpr testkit::Rhythm kTyping{.shortest = 0.06, .longest = 0.14};
+constexpr instruments::Rhythm kTyping{.shortest = 0.06, .longest = 0.14};
 // With and without overlays by turns, since a computer is not equally quick all the time.
 constexpr int kTurns = 5;
 constexpr int kStrokesATurn = 200;
-constexpr testkit::Rhythm kFifteenASecond{.shortest = 0.0567, .longest = 0.0767};
+constexpr instruments::Rhythm kFifteenASecond{.shortest = 0.0567, .longest = 0.0767};
 
-std::vector<std::unique_ptr<testkit::Process>> startBusyLoops()
+std::vector<std::unique_ptr<instruments::Process>> startBusyLoops()
 {
-    std::vector<std::unique_ptr<testkit::Process>> loops;
+    std::vector<std::unique_ptr<instruments::Process>> loops;
     loops.reserve(kBusyLoops);
     for (int i = 0; i < kBusyLoops; ++i) {
-        loops.push_back(
-            std::make_unique<testkit::Process>(std::vector<std::string>{"sh", "-c", "while :; do :; done"}));
+        loops.push_back(std::make_unique<instruments::Process>(
+            std::vector<std::string>{"sh", "-c", "while :; do :; done"}));
     }
     return loops;
 }
@@ -59,7 +59,7 @@ std::vector<latency::Figures> compareOverlays(latency::Subject& subject)
 int measureAll(latency::Subject& subject)
 {
     try {
-        const testkit::Process compositor({"picom", "--backend", "xrender", "--config", "/dev/null"});
+        const instruments::Process compositor({"picom", "--backend", "xrender", "--config", "/dev/null"});
         std::vector<latency::Figures> all = compareOverlays(subject);
         all.push_back(latency::measure(subject, {.name = "idle", .strokes = kStrokes, .rhythm = kTyping}));
         const auto loops = startBusyLoops();

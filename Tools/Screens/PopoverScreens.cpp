@@ -1,7 +1,7 @@
 #include "PopoverScreens.h"
 
+#include "Instruments/ControllersOnMemory.h"
 #include "Screen.h"
-#include "UI/ControllersOnMemory.h"
 #include "UI/Popover/MenuBarViewModel.h"
 
 #include <array>

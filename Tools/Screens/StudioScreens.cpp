@@ -1,8 +1,8 @@
 #include "StudioScreens.h"
 
 #include "App/MainMenuTable.h"
+#include "Instruments/ControllersOnMemory.h"
 #include "Screen.h"
-#include "UI/ControllersOnMemory.h"
 #include "UI/Studio/MainWindowViewModel.h"
 
 #include <array>

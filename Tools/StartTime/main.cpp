@@ -1,6 +1,6 @@
-#include "TestKit/Now.h"
-#include "TestKit/Process.h"
-#include "TestKit/XScreen.h"
+#include "Instruments/Now.h"
+#include "Instruments/Process.h"
+#include "Instruments/XScreen.h"
 
 #include <algorithm>
 #include <chrono>
@@ -34,7 +34,7 @@ struct Times {
 };
 
 /// Whether anything is drawn in the window; an empty one has a single colour.
-bool isPainted(const testkit::XScreen& screen, int process)
+bool isPainted(const instruments::XScreen& screen, int process)
 {
     for (const auto& window : screen.windowsOf(process)) {
         if (window.name != kTitle) {
@@ -44,25 +44,25 @@ bool isPainted(const testkit::XScreen& screen, int process)
         const auto picture =
             screen.picture(window.x, window.y, std::min(window.width, 240), std::min(window.height, 110));
         return std::any_of(picture.pixels.begin(), picture.pixels.end(),
-                           [](const testkit::Pixel& pixel) { return pixel.red > pixel.blue + 100; });
+                           [](const instruments::Pixel& pixel) { return pixel.red > pixel.blue + 100; });
     }
     return false;
 }
 
-Times startOnce(const std::string& path, const testkit::XScreen& screen)
+Times startOnce(const std::string& path, const instruments::XScreen& screen)
 {
-    const double began = testkit::now();
-    testkit::Process program({path});
+    const double began = instruments::now();
+    instruments::Process program({path});
     std::optional<double> listening;
     std::optional<double> painted;
     while (!listening || !painted) {
         if (!listening && program.waitForLine(kListens, 1ms)) {
-            listening = testkit::now();
+            listening = instruments::now();
         }
         if (!painted && isPainted(screen, program.id())) {
-            painted = testkit::now();
+            painted = instruments::now();
         }
-        if (testkit::now() - began > std::chrono::duration<double>(kDeadline).count()) {
+        if (instruments::now() - began > std::chrono::duration<double>(kDeadline).count()) {
             throw std::runtime_error("the program did not come up:\n" + program.output());
         }
         std::this_thread::sleep_for(1ms);
@@ -106,7 +106,7 @@ int main(int argc, char** argv)
         return 2;
     }
     try {
-        const testkit::XScreen screen;
+        const instruments::XScreen screen;
         if (emptyTheDiskCache()) {
             const Times cold = startOnce(argv[1], screen);
             print("cold", cold.listening, cold.painted);

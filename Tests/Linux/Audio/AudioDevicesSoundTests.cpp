@@ -1,7 +1,7 @@
+#include "Instruments/Process.h"
 #include "OwnRecording.h"
 #include "Platform/AudioDevicesConformance.h"
 #include "Platform/Linux/Audio/LinuxAudioDevices.h"
-#include "TestKit/Process.h"
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ public:
 
     void startCapture(const std::string& name)
     {
-        programs_.try_emplace(name, std::make_unique<testkit::Process>(
+        programs_.try_emplace(name, std::make_unique<instruments::Process>(
                                         std::vector<std::string>{"sh", "-c", Kind::record(name)}));
     }
 
@@ -48,13 +48,13 @@ public:
     /// Starts a program that the test ends with `stopCapture`.
     void start(const std::string& name, const std::string& command)
     {
-        programs_.try_emplace(name, std::make_unique<testkit::Process>(
+        programs_.try_emplace(name, std::make_unique<instruments::Process>(
                                         std::vector<std::string>{"sh", "-c", "exec " + command}));
     }
 
     static void run(const std::string& command)
     {
-        testkit::Process process({"sh", "-c", command + " >/dev/null"});
+        instruments::Process process({"sh", "-c", command + " >/dev/null"});
         EXPECT_EQ(process.waitForExit(kDeadline), 0) << command << '\n' << process.output();
     }
 
@@ -75,7 +75,7 @@ private:
     static void control(const std::string& command) { run("\"$PRIVATE_SESSION\" " + command); }
 
     std::unique_ptr<linux::LinuxAudioDevices> devices_;
-    std::map<std::string, std::unique_ptr<testkit::Process>> programs_;
+    std::map<std::string, std::unique_ptr<instruments::Process>> programs_;
 };
 
 struct PipeWireKind {
@@ -139,7 +139,7 @@ protected:
         this->machine_.start("suspect", command);
         // Until it runs there is nothing to be seen of it.
         ASSERT_TRUE(this->machine_.eventually([] {
-            testkit::Process list({"sh", "-c", "pactl list short sources | grep RUNNING"});
+            instruments::Process list({"sh", "-c", "pactl list short sources | grep RUNNING"});
             return list.waitForExit(kDeadline) == 0;
         }));
         this->machine_.plugIn(

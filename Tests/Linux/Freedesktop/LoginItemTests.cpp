@@ -1,6 +1,6 @@
 #include "Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h"
 
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntry.h"
 #include "Platform/LoginItemConformance.h"
 
@@ -18,6 +18,8 @@ namespace tocca::platform {
 
 namespace {
 
+using instruments::TemporaryDirectory;
+
 namespace fs = std::filesystem;
 
 /// A user's and the system's autostart directories, and a program in a directory that is hard to quote.
@@ -26,13 +28,13 @@ public:
     LoginItemMachine()
     {
         fs::create_directories(program.parent_path());
-        linux::TemporaryDirectory::write(program, "");
+        instruments::TemporaryDirectory::write(program, "");
         fs::permissions(program, fs::perms::owner_all);
     }
 
     LoginItem& loginItem() { return item; }
 
-    linux::TemporaryDirectory directory;
+    instruments::TemporaryDirectory directory;
     fs::path program = directory.path() / "a $dir \"100%\"" / "tocca";
     fs::path user = directory.path() / "config" / "autostart";
     fs::path system = directory.path() / "etc" / "autostart";

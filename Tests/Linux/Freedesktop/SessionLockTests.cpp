@@ -1,8 +1,8 @@
 #include "Platform/Linux/Freedesktop/LoginSessionWatch.h"
 #include "Platform/Linux/Freedesktop/ScreenSaverWatch.h"
 
+#include "Instruments/Process.h"
 #include "Linux/Qt/QtMachine.h"
-#include "TestKit/Process.h"
 
 #include <gtest/gtest.h>
 
@@ -80,7 +80,7 @@ protected:
     }
 
     QtMachine machine_;
-    testkit::Process bus_{{"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"}};
+    instruments::Process bus_{{"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address"}};
     QString address_;
     QStringList names_;
     Service service_;

@@ -1,6 +1,6 @@
 #include "Platform/Linux/Freedesktop/Applications/WindowOwner.h"
 
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Platform/Linux/System/ProcessNames.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +13,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::TemporaryDirectory;
 
 class WindowOwnerTest : public ::testing::Test {
 protected:

@@ -1,9 +1,9 @@
 #include "Platform/Linux/Freedesktop/LinuxWorkspace.h"
 
+#include "Instruments/TemporaryDirectory.h"
+#include "Instruments/XWindow.h"
 #include "Linux/Qt/QtMachine.h"
-#include "Linux/System/TemporaryDirectory.h"
 #include "Linux/X11/XServer.h"
-#include "TestKit/XWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,9 @@ namespace tocca::platform::linux {
 
 namespace {
 
-using testkit::XWindow;
+using instruments::TemporaryDirectory;
+
+using instruments::XWindow;
 
 constexpr const char* kActive = "_NET_ACTIVE_WINDOW";
 

@@ -64,7 +64,7 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
     window->setShouldClose([] { return false; });
     std::optional<int> secondsStatus;
     Delegate delegate([&] {
-        testkit::Process second({TOCCA_SECOND_INSTANCE});
+        instruments::Process second({TOCCA_SECOND_INSTANCE});
         runUntil(
             [&] { return (secondsStatus = second.waitForExit(std::chrono::milliseconds(1))).has_value(); });
         application.setActivationPolicy(ActivationPolicy::regular);
@@ -81,9 +81,9 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
                 testing::ElementsAre("Tocca keeps running without a window. Start it again to bring "
                                      "the window back."));
 
-    testkit::Process next({TOCCA_SECOND_INSTANCE});
+    instruments::Process next({TOCCA_SECOND_INSTANCE});
     EXPECT_EQ(next.waitForExit(std::chrono::seconds(20)), 1) << "the name is free again";
-    testkit::Process alone({TOCCA_SECOND_INSTANCE}, {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
+    instruments::Process alone({TOCCA_SECOND_INSTANCE}, {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
     EXPECT_EQ(alone.waitForExit(std::chrono::seconds(20)), 1) << "it runs without a bus";
 }
 
@@ -195,7 +195,7 @@ TEST_F(MenuDesktop, TakesItsKeysInOwnWindowsAndLeavesTextFieldsTheirs)
 
 TEST_F(MenuDesktop, MinimisesTheOtherProgramsAndBringsThemBack)
 {
-    testkit::Process other({"xev"});
+    instruments::Process other({"xev"});
     const auto window = showTextField();
     const auto isMinimised = [] {
         const std::string id = outputOf({"xdotool", "search", "--name", "Event Tester"});

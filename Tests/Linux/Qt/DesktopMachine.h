@@ -2,7 +2,7 @@
 
 #include "Platform/Linux/Qt/Windows/QuickView.h"
 
-#include "TestKit/Process.h"
+#include "Instruments/Process.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -41,7 +41,7 @@ bool runUntil(Predicate predicate)
 /// What a command prints, the toolkit working meanwhile.
 inline std::string outputOf(const std::vector<std::string>& command)
 {
-    testkit::Process process(command);
+    instruments::Process process(command);
     runUntil([&] { return process.waitForExit(std::chrono::milliseconds(1)).has_value(); });
     return process.output();
 }

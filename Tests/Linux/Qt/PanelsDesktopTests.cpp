@@ -32,7 +32,7 @@ protected:
     LinuxPanels panels_{family_, desktop_};
 
 private:
-    std::optional<testkit::Process> compositor_;
+    std::optional<instruments::Process> compositor_;
 };
 
 TEST_F(PanelsDesktop, IsToBeSeenOnlyWhileSomethingComposesWindows)

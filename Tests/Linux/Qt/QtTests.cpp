@@ -1,8 +1,8 @@
 #include "Platform/Linux/Freedesktop/LinuxWorkspace.h"
 #include "Platform/MainQueueAndTimersConformance.h"
 
+#include "Instruments/TemporaryDirectory.h"
 #include "Linux/Qt/QtMachine.h"
-#include "Linux/System/TemporaryDirectory.h"
 
 #include <QEventLoop>
 
@@ -12,6 +12,8 @@
 namespace tocca::platform {
 
 namespace {
+
+using instruments::TemporaryDirectory;
 
 using linux::QtMachine;
 

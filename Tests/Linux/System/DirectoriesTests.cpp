@@ -1,4 +1,4 @@
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Platform/Linux/System/Files/LinuxDirectories.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +9,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::TemporaryDirectory;
 
 /// Sets an environment variable, or removes it, for as long as it lives.
 class Variable {

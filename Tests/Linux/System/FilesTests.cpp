@@ -1,4 +1,4 @@
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +13,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::TemporaryDirectory;
 
 constexpr std::size_t kLimit = 32UL << 20U;
 

@@ -1,8 +1,8 @@
 #include "Audio/PackFolder.h"
 #include "Audio/Packs/PackImporter.h"
 #include "Audio/Packs/PackLibrary.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Linux/System/ChildProcess.h"
-#include "Linux/System/TemporaryDirectory.h"
 #include "Platform/FaultyFiles.h"
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
@@ -26,8 +26,8 @@ namespace tocca::audio {
 namespace {
 
 namespace fs = std::filesystem;
+using instruments::TemporaryDirectory;
 using platform::linux::ChildProcess;
-using platform::linux::TemporaryDirectory;
 using testing::AnyOf;
 using testing::ElementsAre;
 using testing::HasSubstr;

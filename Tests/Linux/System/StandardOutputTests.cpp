@@ -1,4 +1,4 @@
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Platform/Linux/System/LinuxRandom.h"
 #include "Platform/Linux/System/LinuxStandardOutput.h"
 

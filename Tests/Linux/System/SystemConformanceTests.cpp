@@ -1,5 +1,5 @@
+#include "Instruments/TemporaryDirectory.h"
 #include "Linux/System/PolledMachine.h"
-#include "Linux/System/TemporaryDirectory.h"
 #include "Platform/FileStoreConformance.h"
 #include "Platform/FilesConformance.h"
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
@@ -23,10 +23,13 @@ public:
 
     static void write(const std::filesystem::path& path, const std::string& text)
     {
-        linux::TemporaryDirectory::write(path, text);
+        instruments::TemporaryDirectory::write(path, text);
     }
 
-    static void makeSpecial(const std::filesystem::path& path) { linux::TemporaryDirectory::makeFifo(path); }
+    static void makeSpecial(const std::filesystem::path& path)
+    {
+        instruments::TemporaryDirectory::makeFifo(path);
+    }
 
     static void makeLink(const std::filesystem::path& path, const std::filesystem::path& target)
     {
@@ -34,7 +37,7 @@ public:
     }
 
 private:
-    linux::TemporaryDirectory directory_;
+    instruments::TemporaryDirectory directory_;
     linux::LinuxFiles files_;
     linux::LinuxFileStore fileStore_;
 };

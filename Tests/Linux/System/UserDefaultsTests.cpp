@@ -1,7 +1,7 @@
 #include "Platform/Linux/System/Files/LinuxUserDefaults.h"
 #include "Platform/Linux/System/Threads/LinuxSerialQueues.h"
 
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::TemporaryDirectory;
 
 TEST(LinuxUserDefaults, KeepsWhatWasSetLastInAFileOfLines)
 {

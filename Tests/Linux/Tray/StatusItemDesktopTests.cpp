@@ -64,7 +64,7 @@ TEST_F(StatusItemDesktop, IsInAnX11TrayWheneverThereIsOne)
     EXPECT_FALSE(bar_.isShown());
     for (int round = 1; round <= 2; ++round) {
         SCOPED_TRACE(round);
-        testkit::Process tray({"tint2"});
+        instruments::Process tray({"tint2"});
         ASSERT_TRUE(runUntil([&] { return item_.iconPlace().width() > 8 && item_.iconPlace().x() > 0; }));
         EXPECT_TRUE(bar_.isShown());
         const QPoint centre = item_.iconPlace().center();

@@ -1,11 +1,11 @@
 #include "Platform/Linux/X11/DesktopWatch.h"
 
+#include "Instruments/XTestKeyboard.h"
+#include "Instruments/XWindow.h"
 #include "Linux/X11/Listener.h"
 #include "Linux/X11/XServer.h"
 #include "Platform/Linux/System/SecureInput.h"
 #include "Platform/Linux/X11/SecretPrompts.h"
-#include "TestKit/XTestKeyboard.h"
-#include "TestKit/XWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-using testkit::XWindow;
+using instruments::XWindow;
 
 constexpr const char* kActive = "_NET_ACTIVE_WINDOW";
 
@@ -181,7 +181,7 @@ TEST_F(DesktopWatchTest, IsSecureWhileTheKeyboardIsGrabbedAndAPromptIsOpen)
 TEST_F(DesktopWatchTest, KeepsKeysFromTheTapWhileAPromptHasThem)
 {
     Listener listener(Listener::kEverything, [this] { return !secure_.isActive(); });
-    testkit::XTestKeyboard keyboard;
+    instruments::XTestKeyboard keyboard;
     editor_.takeFocus();
     keyboard.press(KEY_A);
     EXPECT_EQ(listener.until("d0:0"), "d0:0 ");

@@ -1,4 +1,4 @@
-#include "Linux/System/TemporaryDirectory.h"
+#include "Instruments/TemporaryDirectory.h"
 #include "Linux/X11/XServer.h"
 #include "Platform/Linux/X11/Input/X11TrustQuery.h"
 #include "Platform/StandardOutput.h"
@@ -16,6 +16,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::TemporaryDirectory;
 
 class Lines : public StandardOutput {
 public:

@@ -1,6 +1,6 @@
+#include "Instruments/XTestKeyboard.h"
 #include "Linux/X11/Listener.h"
 #include "Linux/X11/XServer.h"
-#include "TestKit/XTestKeyboard.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ protected:
     }
 
     XServer server_;
-    testkit::XTestKeyboard keyboard_;
+    instruments::XTestKeyboard keyboard_;
 };
 
 TEST_F(XInputEventTap, HearsEachKindOfEventInOrder)
@@ -226,7 +226,7 @@ TEST_F(XInputEventTap, ComesBackWithTheServerAndLeavesNoKeyStuck)
     server_.start();
     EXPECT_EQ(listener.until("f56:0"), "u0:20000 f56:0 ");
 
-    testkit::XTestKeyboard another;
+    instruments::XTestKeyboard another;
     another.press(KEY_S);
     EXPECT_EQ(listener.until("d1:0"), "d1:0 ");
 }

@@ -44,7 +44,7 @@ XServer::~XServer()
 void XServer::start()
 {
     // The server writes the number of its display once it is ready; its complaints are kept apart from that.
-    process_ = std::make_unique<testkit::Process>(std::vector<std::string>{
+    process_ = std::make_unique<instruments::Process>(std::vector<std::string>{
         "sh", "-c",
         "exec Xvfb " + ownDisplay() +
             " -displayfd 1 -nolisten tcp -noreset -screen 0 320x200x24 2>/dev/null"});
@@ -72,7 +72,7 @@ void XServer::goOn()
 void XServer::setLayoutOption(const std::string& option)
 {
     // The empty option comes first, because options add up.
-    testkit::Process setter({"setxkbmap", "-layout", "us", "-option", "", "-option", option});
+    instruments::Process setter({"setxkbmap", "-layout", "us", "-option", "", "-option", option});
     if (setter.waitForExit(kDeadline) != 0) {
         throw std::runtime_error("setxkbmap: " + setter.output());
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TestKit/Process.h"
+#include "Instruments/Process.h"
 
 #include <xcb/xcb.h>
 
@@ -47,7 +47,7 @@ public:
     };
 
 private:
-    std::unique_ptr<testkit::Process> process_;
+    std::unique_ptr<instruments::Process> process_;
 };
 
 } // namespace tocca::platform::linux

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "TestKit/Onsets.h"
-#include "TestKit/Recording.h"
-#include "TestKit/Typist.h"
+#include "Instruments/Onsets.h"
+#include "Instruments/Recording.h"
+#include "Instruments/Typist.h"
 
 #include <optional>
 #include <vector>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// A sound of a recording, and when it began (seconds on CLOCK_MONOTONIC).
 struct Sound {
@@ -30,4 +30,4 @@ struct Hearing {
 /// Gives each sound of `recording` since the first stroke to the last stroke before it.
 [[nodiscard]] Hearing hear(std::vector<Stroke> strokes, const Recording& recording);
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

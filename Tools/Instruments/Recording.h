@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// What was heard, with the time of each frame.
 ///
@@ -37,4 +37,4 @@ private:
 /// Writes interleaved stereo as 16-bit WAV. Errors: false when the file cannot be written.
 [[nodiscard]] bool writeWav(std::span<const float> stereo, double sampleRate, const std::string& path);
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

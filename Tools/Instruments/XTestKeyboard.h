@@ -5,7 +5,7 @@
 
 struct xcb_connection_t;
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// A synthetic keyboard and mouse on the X server that DISPLAY names.
 ///
@@ -32,4 +32,4 @@ private:
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> connection_;
 };
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

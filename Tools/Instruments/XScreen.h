@@ -9,7 +9,7 @@
 
 struct xcb_connection_t;
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// A colour. Units: 0…255.
 struct Pixel {
@@ -72,4 +72,4 @@ private:
     int height_ = 0;
 };
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -8,7 +8,7 @@
 #include <sys/types.h>
 #include <vector>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// A program under test: started, read line by line, ended.
 ///
@@ -56,4 +56,4 @@ private:
     std::optional<int> status_;
 };
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "TestKit/Hearing.h"
-#include "TestKit/MonitorRecorder.h"
-#include "TestKit/Typist.h"
+#include "Instruments/Hearing.h"
+#include "Instruments/MonitorRecorder.h"
+#include "Instruments/Typist.h"
 
 #include <chrono>
 #include <random>
 #include <span>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// Types `keys` and returns what was heard of them, waiting for the end of the last sound.
 /// Errors: throws `std::runtime_error` when the sink does not play for as long as `deadline`.
@@ -21,4 +21,4 @@ namespace tocca::testkit {
 [[nodiscard]] bool becomesAudible(XTestKeyboard& keyboard, const MonitorRecorder& recorder,
                                   std::chrono::milliseconds deadline);
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,6 +1,6 @@
-#include "TestKit/Rehearsal.h"
+#include "Instruments/Rehearsal.h"
 
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <array>
 #include <linux/input-event-codes.h>
@@ -8,7 +8,7 @@
 #include <thread>
 #include <utility>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -42,4 +42,4 @@ bool becomesAudible(XTestKeyboard& keyboard, const MonitorRecorder& recorder,
     return false;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

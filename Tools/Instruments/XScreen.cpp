@@ -1,4 +1,4 @@
-#include "TestKit/XScreen.h"
+#include "Instruments/XScreen.h"
 
 #include <cstdlib>
 #include <span>
@@ -6,7 +6,7 @@
 #include <string_view>
 #include <xcb/xcb.h>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 namespace {
 
 template <class Reply>
@@ -132,4 +132,4 @@ std::string XScreen::nameOf(std::uint32_t window) const
     return {static_cast<const char*>(xcb_get_property_value(reply.get())), reply->value_len};
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,10 +1,10 @@
-#include "TestKit/Process.h"
+#include "Instruments/Process.h"
 
 #include <csignal>
 #include <gtest/gtest.h>
 #include <system_error>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 namespace {
 
 using namespace std::chrono_literals;
@@ -43,4 +43,4 @@ TEST(Process, ThrowsForAProgramThatDoesNotExist)
 }
 
 } // namespace
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "TestKit/XTestKeyboard.h"
+#include "Instruments/XTestKeyboard.h"
 
 #include <cstdint>
 #include <random>
 #include <span>
 #include <vector>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// A key that was pressed, and when (seconds on CLOCK_MONOTONIC).
 struct Stroke {
@@ -29,4 +29,4 @@ struct Rhythm {
 /// Forty different keys that are neither modifiers nor lone in their sound.
 [[nodiscard]] std::span<const std::uint16_t> ordinaryKeys();
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -6,7 +6,7 @@
 
 struct xcb_connection_t;
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// A window of a program of its own, as the X server sees it.
 ///
@@ -57,4 +57,4 @@ private:
     std::uint32_t window_ = 0;
 };
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

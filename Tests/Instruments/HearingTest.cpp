@@ -1,8 +1,8 @@
-#include "TestKit/Hearing.h"
+#include "Instruments/Hearing.h"
 
 #include <gtest/gtest.h>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 namespace {
 
 constexpr double kRate = 48000.0;
@@ -63,4 +63,4 @@ TEST(Hearing, TellsWhenASoundBegan)
 }
 
 } // namespace
-} // namespace tocca::testkit
+} // namespace tocca::instruments

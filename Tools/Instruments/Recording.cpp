@@ -1,4 +1,4 @@
-#include "TestKit/Recording.h"
+#include "Instruments/Recording.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <fstream>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -84,4 +84,4 @@ bool writeWav(std::span<const float> stereo, double sampleRate, const std::strin
     return !file.fail();
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

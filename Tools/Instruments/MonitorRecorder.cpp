@@ -1,6 +1,6 @@
-#include "TestKit/MonitorRecorder.h"
+#include "Instruments/MonitorRecorder.h"
 
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <thread>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -221,4 +221,4 @@ Recording MonitorRecorder::recording() const
     return stream_->recording();
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// Seconds on CLOCK_MONOTONIC, the clock of recordings and of synthetic events.
 [[nodiscard]] inline double now() noexcept
@@ -10,4 +10,4 @@ namespace tocca::testkit {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

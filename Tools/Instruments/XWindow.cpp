@@ -1,4 +1,4 @@
-#include "TestKit/XWindow.h"
+#include "Instruments/XWindow.h"
 
 #include <array>
 #include <cstdlib>
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <xcb/xcb.h>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -129,4 +129,4 @@ void XWindow::synchronize()
     std::free(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -8,7 +8,7 @@
 #include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkdtemp
 #include <sys/stat.h>
 
-namespace tocca::platform::linux {
+namespace tocca::instruments {
 
 /// A directory of a test's own, gone with the test.
 class TemporaryDirectory {
@@ -49,4 +49,4 @@ private:
     std::filesystem::path path_;
 };
 
-} // namespace tocca::platform::linux
+} // namespace tocca::instruments

@@ -1,13 +1,13 @@
-#include "TestKit/XTestKeyboard.h"
+#include "Instruments/XTestKeyboard.h"
 
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <cstdlib>
 #include <stdexcept>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -71,4 +71,4 @@ double XTestKeyboard::send(std::uint8_t type, std::uint8_t detail, int x, int y)
     return sentAt;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

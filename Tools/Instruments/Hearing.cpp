@@ -1,9 +1,9 @@
-#include "TestKit/Hearing.h"
+#include "Instruments/Hearing.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -53,4 +53,4 @@ Hearing hear(std::vector<Stroke> strokes, const Recording& recording)
     return hearing;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "TestKit/Recording.h"
+#include "Instruments/Recording.h"
 
 #include <chrono>
 #include <memory>
 #include <string>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// Records what the default sink of the PipeWire server plays, at the graph's own rate and quantum.
 ///
@@ -32,4 +32,4 @@ private:
     std::unique_ptr<Stream> stream_;
 };
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,4 +1,4 @@
-#include "TestKit/Process.h"
+#include "Instruments/Process.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 #include <system_error>
 #include <unistd.h>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -167,4 +167,4 @@ bool Process::readSome(milliseconds timeout)
     return length > 0;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// The beginning of a sound.
 struct Onset {
@@ -23,4 +23,4 @@ struct Onset {
 /// other than that count as one.
 [[nodiscard]] std::vector<Onset> findOnsets(std::span<const float> stereo, double sampleRate);
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

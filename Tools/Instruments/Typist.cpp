@@ -1,13 +1,13 @@
-#include "TestKit/Typist.h"
+#include "Instruments/Typist.h"
 
-#include "TestKit/Now.h"
+#include "Instruments/Now.h"
 
 #include <array>
 #include <chrono>
 #include <linux/input-event-codes.h>
 #include <thread>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -48,4 +48,4 @@ std::span<const std::uint16_t> ordinaryKeys()
     return kOrdinaryKeys;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,9 +1,9 @@
-#include "TestKit/Onsets.h"
+#include "Instruments/Onsets.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -87,4 +87,4 @@ std::vector<Onset> findOnsets(std::span<const float> stereo, double sampleRate)
     return onsets;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

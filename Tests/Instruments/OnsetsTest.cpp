@@ -1,6 +1,6 @@
-#include "TestKit/Onsets.h"
+#include "Instruments/Onsets.h"
 
-#include "TestKit/Recording.h"
+#include "Instruments/Recording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +9,7 @@
 #include <numbers>
 #include <random>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 namespace {
 
 using testing::Pointwise;
@@ -125,4 +125,4 @@ TEST(Recording, TellsTheTimeOfEachFrameAcrossAGap)
 }
 
 } // namespace
-} // namespace tocca::testkit
+} // namespace tocca::instruments
