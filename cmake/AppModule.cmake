@@ -1,9 +1,10 @@
-# One helper for every layer: a static library with its headers as a verified file set.
+# One helper for every layer: a static library of ours.
 #
-#   app_module(NAME SOURCES … HEADERS … DEPENDS … [PRIVATE_DEPENDS …])
+#   app_module(NAME UNITS … [SOURCES …] [HEADERS …] DEPENDS … [PRIVATE_DEPENDS …])
 #
-# Without SOURCES the module is an interface library. HEADERS are relative to Sources/Tocca, the one include root; each of
-# them is compiled alone with just this module's dependencies by the target all_verify_interface_header_sets.
+# Names are relative to Sources/Tocca, the one include root. A unit is a source and the header of the same name; including its
+# header first, it proves that the header compiles alone. HEADERS are those without a source: each is compiled alone, with just
+# this module's dependencies, by the target all_verify_interface_header_sets. Without a source it is an interface library.
 
 add_library(tocca_options INTERFACE)
 target_compile_options(tocca_options INTERFACE
@@ -24,7 +25,9 @@ find_package(Threads REQUIRED)
 target_link_libraries(tocca_options INTERFACE Threads::Threads)
 
 function(app_module name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "UNITS;SOURCES;HEADERS;DEPENDS;PRIVATE_DEPENDS" ${ARGN})
+    list(TRANSFORM ARG_UNITS APPEND .cpp)
+    list(APPEND ARG_SOURCES ${ARG_UNITS})
     if(ARG_SOURCES)
         list(TRANSFORM ARG_SOURCES PREPEND ${PROJECT_SOURCE_DIR}/Sources/Tocca/)
         add_library(${name} STATIC ${ARG_SOURCES})
@@ -35,30 +38,32 @@ function(app_module name)
         set(scope INTERFACE)
     endif()
     target_link_libraries(${name} ${scope} tocca_options ${ARG_DEPENDS})
-    app_headers(${name} HEADERS ${ARG_HEADERS})
+    app_headers(${name} ${scope} ${ARG_HEADERS})
 endfunction()
 
-# app_headers(NAME HEADERS …): the verified headers of a library, as app_module takes them.
-function(app_headers name)
-    cmake_parse_arguments(ARG "" "" "HEADERS" ${ARGN})
+# app_headers(NAME SCOPE HEADER…): the headers of a library that no source of the same name includes first.
+function(app_headers name scope)
     set(root ${PROJECT_SOURCE_DIR}/Sources/Tocca)
-    list(TRANSFORM ARG_HEADERS PREPEND ${root}/)
-    get_target_property(type ${name} TYPE)
-    set(scope PUBLIC)
-    if(type STREQUAL "INTERFACE_LIBRARY")
-        set(scope INTERFACE)
-    endif()
-    target_sources(${name} ${scope} FILE_SET HEADERS BASE_DIRS ${root} FILES ${ARG_HEADERS})
+    set(headers ${ARGN})
+    list(TRANSFORM headers PREPEND ${root}/)
+    target_include_directories(${name} ${scope} ${root})
+    target_sources(${name} ${scope} FILE_SET HEADERS BASE_DIRS ${root} FILES ${headers})
+endfunction()
+
+# app_test_program(NAME SOURCES … DEPENDS …): a program of GoogleTest cases; the caller says how ctest runs it.
+function(app_test_program name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} tocca_options GTest::gmock GTest::gtest)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/Tests ${PROJECT_SOURCE_DIR}/Tools)
+    # A test waits for what it tests, not for itself; optimising its macros takes longer than running them.
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
 endfunction()
 
 # app_test(NAME SOURCES … DEPENDS … [LABELS …] [PROPERTIES …]): a GoogleTest program whose cases ctest knows one by one.
 function(app_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LABELS;PROPERTIES" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} tocca_options GTest::gmock GTest::gtest_main)
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/Tests ${PROJECT_SOURCE_DIR}/Tools)
-    # A test waits for what it tests, not for itself; optimising its macros takes longer than running them.
-    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
+    app_test_program(${name} SOURCES ${ARG_SOURCES} DEPENDS ${ARG_DEPENDS} GTest::gtest_main)
     if(ARG_LABELS)
         list(APPEND ARG_PROPERTIES LABELS "${ARG_LABELS}")
     endif()

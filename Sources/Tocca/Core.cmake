@@ -1,90 +1,53 @@
 find_package(simdjson REQUIRED)
 
 app_module(tocca_core
-    SOURCES
-        App/AppDelegate.cpp
-        App/LaunchAtLogin.cpp
-        App/MainMenuTable.cpp
-        App/SensitiveApplications.cpp
-        App/SmartMuteManager.cpp
-        App/StatusIcon.cpp
-        Audio/AcousticCatalogues.cpp
-        Audio/AudioEngine.cpp
-        Audio/PeripheralSynthesis.cpp
-        Audio/SoundProfile.cpp
-        Audio/SoundSlot.cpp
-        Audio/StrokeShaping.cpp
-        Audio/Packs/PackImporter.cpp
-        Audio/Packs/PackLibrary.cpp
-        Audio/Packs/PackManifest.cpp
-        Audio/Packs/PackStaging.cpp
-        Audio/Packs/SoundPackLoader.cpp
-        Keyboard/KeyboardMonitor.cpp
-        Keyboard/TypingSpeed.cpp
-        UI/Controllers.cpp
-        UI/ViewFactory.cpp
-        UI/NotchHUD/NotchAcousticHUDController.cpp
-        UI/Popover/FileUrl.cpp
-        UI/Popover/Packs/CommunityPage.cpp
-        UI/Popover/Packs/PackImport.cpp
-        UI/Popover/Packs/SoundPackRows.cpp
-        UI/Studio/StudioText.cpp
-        UI/Studio/Showroom/ShowroomCatalogue.cpp
-        UI/Studio/Showroom/ShowroomItem.cpp
-        UI/Studio/Showroom/SwitchSelection.cpp
-        UI/Studio/Showroom/SwitchTraits.cpp
-        UI/Studio/Showroom/TextFolding.cpp
-        UI/Studio/Sidebar/StudioTab.cpp
-        UI/Studio/Stage/VisualKey.cpp
-        UI/Studio/WindowMenu/KeyEquivalentText.cpp
-        UI/Underglow/SpatialUnderglowController.cpp
-        UI/Underglow/UnderglowTheme.cpp
+    UNITS
+        App/AppDelegate
+        App/LaunchAtLogin
+        App/MainMenuTable
+        App/SensitiveApplications
+        App/SmartMuteManager
+        App/StatusIcon
+        Audio/AcousticCatalogues
+        Audio/AudioEngine
+        Audio/PeripheralSynthesis
+        Audio/SoundProfile
+        Audio/SoundSlot
+        Audio/StrokeShaping
+        Audio/Packs/PackImporter
+        Audio/Packs/PackLibrary
+        Audio/Packs/PackManifest
+        Audio/Packs/PackStaging
+        Audio/Packs/SoundPackLoader
+        Keyboard/KeyboardMonitor
+        Keyboard/TypingSpeed
+        UI/Controllers
+        UI/ViewFactory
+        UI/NotchHUD/NotchAcousticHUDController
+        UI/Popover/FileUrl
+        UI/Popover/Packs/CommunityPage
+        UI/Popover/Packs/PackImport
+        UI/Popover/Packs/SoundPackRows
+        UI/Studio/StudioText
+        UI/Studio/Showroom/ShowroomCatalogue
+        UI/Studio/Showroom/ShowroomItem
+        UI/Studio/Showroom/SwitchSelection
+        UI/Studio/Showroom/SwitchTraits
+        UI/Studio/Showroom/TextFolding
+        UI/Studio/Sidebar/StudioTab
+        UI/Studio/Stage/VisualKey
+        UI/Studio/WindowMenu/KeyEquivalentText
+        UI/Underglow/SpatialUnderglowController
+        UI/Underglow/UnderglowTheme
     HEADERS
-        App/AppDelegate.h
-        App/LaunchAtLogin.h
-        App/MainMenuTable.h
-        App/SensitiveApplications.h
-        App/SmartMuteManager.h
-        App/StatusIcon.h
-        Audio/AcousticCatalogues.h
-        Audio/AudioEngine.h
         Audio/AudioSettings.h
-        Audio/PeripheralSynthesis.h
         Audio/PlayerPool.h
         Audio/RandomDraws.h
-        Audio/SoundProfile.h
-        Audio/SoundSlot.h
-        Audio/StrokeShaping.h
         Audio/Packs/PackImportError.h
-        Audio/Packs/PackImporter.h
-        Audio/Packs/PackLibrary.h
-        Audio/Packs/PackManifest.h
-        Audio/Packs/PackStaging.h
         Audio/Packs/SoundPackInfo.h
-        Audio/Packs/SoundPackLoader.h
         Keyboard/Debouncer.h
-        Keyboard/KeyboardMonitor.h
-        Keyboard/TypingSpeed.h
-        UI/Controllers.h
         UI/StudioTheme.h
-        UI/ViewFactory.h
-        UI/NotchHUD/NotchAcousticHUDController.h
         UI/NotchHUD/Waveform.h
-        UI/Popover/FileUrl.h
-        UI/Popover/Packs/CommunityPage.h
-        UI/Popover/Packs/PackImport.h
-        UI/Popover/Packs/SoundPackRows.h
-        UI/Studio/StudioText.h
-        UI/Studio/Showroom/ShowroomCatalogue.h
-        UI/Studio/Showroom/ShowroomItem.h
-        UI/Studio/Showroom/SwitchSelection.h
-        UI/Studio/Showroom/SwitchTraits.h
-        UI/Studio/Showroom/TextFolding.h
-        UI/Studio/Sidebar/StudioTab.h
-        UI/Studio/Stage/VisualKey.h
-        UI/Studio/WindowMenu/KeyEquivalentText.h
         UI/Underglow/Glow.h
-        UI/Underglow/SpatialUnderglowController.h
-        UI/Underglow/UnderglowTheme.h
     DEPENDS tocca_platform
     PRIVATE_DEPENDS simdjson::simdjson)

@@ -52,7 +52,8 @@ STANDARD = set(
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:<([^>]+)>|"([^"]+)")')
 CONDITION = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif|else)\b")
 MODULE = re.compile(r"\b(?:app_module|set|list)\s*\(([^)]*)\)")
-HEADER_LISTS = {"HEADERS", "TOCCA_UI_HEADERS"}
+HEADER_LISTS = {"HEADERS": "", "TOCCA_UI_HEADERS": "UI/"}  # and what their names are relative to
+UNIT_LISTS = {"UNITS": "", "TOCCA_UI_UNITS": "UI/"}
 
 # The parts of the interface that stand on Qt.
 VIEW = re.compile(r"^UI/((Quick|Controls|Symbols)/.*|(.*ViewModel|Interface)\.(h|cpp))$")
@@ -100,9 +101,9 @@ def file_problems(root, file):
             yield number, problem
 
 
-def listed_headers(root):
-    """Every header that stands in the HEADERS of some app_module."""
-    headers = set()
+def listed(root):
+    """Every header without a source, and every unit, that stands in a list of the build."""
+    headers, units = set(), set()
     for file in [*root.glob(f"{SOURCES}/**/*.cmake"), *root.glob(f"{SOURCES}/**/CMakeLists.txt")]:
         text = re.sub(r"#.*", "", file.read_text(encoding="utf-8"))
         for module in MODULE.findall(text):
@@ -111,20 +112,34 @@ def listed_headers(root):
                 if re.fullmatch(r"[A-Z_]+", word):
                     keyword = word
                 elif keyword in HEADER_LISTS:
-                    headers.add(word)
-    return headers
+                    headers.add(HEADER_LISTS[keyword] + word)
+                elif keyword in UNIT_LISTS:
+                    units.add(UNIT_LISTS[keyword] + word)
+    return headers, units
+
+
+def header_problem(root, name, headers, units):
+    """What keeps a header from being compiled alone somewhere."""
+    if name in headers:
+        return None
+    if name.removesuffix(".h") not in units:
+        return "is in the UNITS or HEADERS of no app_module, so nothing proves that it compiles alone"
+    text = (root / SOURCES / name).with_suffix(".cpp").read_text(encoding="utf-8")
+    first = next((match[2] for match in map(INCLUDE.match, text.splitlines()) if match), None)
+    return None if first == name else "is not what its source includes first, so nothing proves that it compiles alone"
 
 
 def problems(root):
-    listed = listed_headers(root)
+    headers, units = listed(root)
     for file in sorted((root / SOURCES).rglob("*")):
         if file.suffix not in {".h", ".cpp"}:
             continue
         name = file.relative_to(root)
         for number, problem in file_problems(root, file):
             yield f"{name}:{number}: {problem}"
-        if file.suffix == ".h" and str(file.relative_to(root / SOURCES)) not in listed:
-            yield f"{name}:1: is in the HEADERS of no app_module, so nothing proves that it compiles alone"
+        problem = file.suffix == ".h" and header_problem(root, str(file.relative_to(root / SOURCES)), headers, units)
+        if problem:
+            yield f"{name}:1: {problem}"
 
 
 def main():

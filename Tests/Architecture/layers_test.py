@@ -10,9 +10,9 @@ from layers import problems
 CLEAN = {
     "CMakeLists.txt": """
         app_module(support HEADERS Support/Ring.h Support/Realtime.h)
-        app_module(platform SOURCES Platform/Host.cpp HEADERS Platform/Host.h DEPENDS support)
-        app_module(controllers SOURCES App/Mute.cpp HEADERS Audio/Engine.h App/Mute.h)
-        app_module(player SOURCES Player/Mixing/Mixer.cpp HEADERS Player/Mixing/Mixer.h)""",
+        app_module(platform UNITS Platform/Host DEPENDS support)
+        app_module(controllers UNITS App/Mute HEADERS Audio/Engine.h)
+        app_module(player UNITS Player/Mixing/Mixer)""",
     "Platform/Linux/Linux.cmake": "app_module(desktop HEADERS Platform/Linux/Tap.h) # HEADERS Platform/Host.h",
     "Support/Ring.h": "#pragma once\n#include <atomic>\n",
     "Support/Realtime.h": "#ifdef __has_cpp_attribute\n#endif\n",
@@ -44,16 +44,16 @@ PLANTED = [
     ("App/Mute.cpp", '#include "Mute.h"', "not a file of a known layer"),
     ("App/Mute.cpp", "#ifdef __linux__", "conditional compilation"),
     ("Player/Mixing/Mixer.h", "  # if 0", "conditional compilation"),
-    ("App/Unlisted.h", "#pragma once", "HEADERS of no app_module"),
+    ("App/Unlisted.h", "#pragma once", "UNITS or HEADERS of no app_module"),
     ("Extra/New.cpp", "", "belongs to no known layer"),
 ]
 
 
 class Layers(unittest.TestCase):
-    def found(self, file=None, line=""):
+    def found(self, changes=()):
         with tempfile.TemporaryDirectory() as directory:
             root = Path(directory)
-            for name, text in {**CLEAN, **({file: CLEAN.get(file, "") + line + "\n"} if file else {})}.items():
+            for name, text in {**CLEAN, **dict(changes)}.items():
                 path = root / "Sources/Tocca" / name
                 path.parent.mkdir(parents=True, exist_ok=True)
                 path.write_text(text, encoding="utf-8")
@@ -65,10 +65,15 @@ class Layers(unittest.TestCase):
     def test_each_planted_violation_is_the_one_found(self):
         for file, line, expected in PLANTED:
             with self.subTest(file=file, line=line):
-                found = self.found(file, line)
+                found = self.found({file: CLEAN.get(file, "") + line + "\n"})
                 self.assertEqual(len(found), 1, found)
                 self.assertIn(expected, found[0])
                 self.assertIn(file, found[0])
+
+    def test_a_unit_includes_its_own_header_first(self):
+        found = self.found({"App/Mute.cpp": '#include "Audio/Engine.h"\n#include "App/Mute.h"\n'})
+        self.assertEqual(found, ["Sources/Tocca/App/Mute.h:1: is not what its source includes first, "
+                                 "so nothing proves that it compiles alone"])
 
 
 if __name__ == "__main__":

@@ -1,7 +1,5 @@
 app_module(tocca_player_interface
-    HEADERS
-        Player/AudioOutput.h
-        Player/RenderSource.h
+    HEADERS Player/AudioOutput.h Player/RenderSource.h
     DEPENDS tocca_platform)
 
 find_package(PkgConfig REQUIRED)
@@ -17,49 +15,31 @@ else()
 endif()
 
 app_module(tocca_player
-    SOURCES
-        Player/MixerAudioPlayer.cpp
-        Player/MixerAudioPlayers.cpp
-        Player/Decoding/Decoder.cpp
-        Player/Decoding/Downmix.cpp
-        Player/Decoding/PcmCache.cpp
-        Player/Decoding/PcmClip.cpp
-        Player/Decoding/Resampler.cpp
-        Player/Decoding/SoundFile.cpp
-        Player/Decoding/SoundFormat.cpp
-        Player/Mixing/Limiter.cpp
-        Player/Mixing/Mixdown.cpp
-        Player/Mixing/Mixer.cpp
-        Player/Mixing/SincKernel.cpp
-        Player/Mixing/SincTable.cpp
-        Player/Mixing/TruePeak.cpp
-        Player/Mixing/Voice.cpp
-        Player/Mixing/VoiceExchange.cpp
-        Player/Mixing/VoiceList.cpp
-        ${processor_sources}
+    UNITS
+        Player/MixerAudioPlayer
+        Player/MixerAudioPlayers
+        Player/Decoding/Decoder
+        Player/Decoding/Downmix
+        Player/Decoding/PcmCache
+        Player/Decoding/PcmClip
+        Player/Decoding/Resampler
+        Player/Decoding/SoundFile
+        Player/Decoding/SoundFormat
+        Player/Mixing/Limiter
+        Player/Mixing/Mixdown
+        Player/Mixing/Mixer
+        Player/Mixing/SincKernel
+        Player/Mixing/SincTable
+        Player/Mixing/TruePeak
+        Player/Mixing/Voice
+        Player/Mixing/VoiceExchange
+        Player/Mixing/VoiceList
+    SOURCES ${processor_sources}
     HEADERS
-        Player/MixerAudioPlayer.h
-        Player/MixerAudioPlayers.h
-        Player/Decoding/Decoder.h
-        Player/Decoding/Downmix.h
-        Player/Decoding/PcmCache.h
-        Player/Decoding/PcmClip.h
-        Player/Decoding/Resampler.h
-        Player/Decoding/SoundFile.h
-        Player/Decoding/SoundFormat.h
         Player/Mixing/DenormalGuard.h
-        Player/Mixing/Limiter.h
-        Player/Mixing/Mixdown.h
-        Player/Mixing/Mixer.h
         Player/Mixing/MixerStatistics.h
-        Player/Mixing/SincKernel.h
         Player/Mixing/SincKernelBody.h
-        Player/Mixing/SincTable.h
         Player/Mixing/StrokeTrace.h
-        Player/Mixing/TruePeak.h
-        Player/Mixing/Voice.h
-        Player/Mixing/VoiceExchange.h
-        Player/Mixing/VoiceList.h
         Player/Mixing/VoiceRequest.h
         Player/Mixing/X86/SincKernelAvx2.h
     DEPENDS tocca_player_interface tocca_platform tocca_support

@@ -1,7 +1,4 @@
 list(APPEND TOCCA_UI_QML
     NotchHUD/NotchHUDContentView.qml
     NotchHUD/SpeedPill.qml)
-list(APPEND TOCCA_UI_SOURCES
-    NotchHUD/NotchHUDViewModel.cpp)
-list(APPEND TOCCA_UI_HEADERS
-    UI/NotchHUD/NotchHUDViewModel.h)
+list(APPEND TOCCA_UI_UNITS NotchHUD/NotchHUDViewModel)

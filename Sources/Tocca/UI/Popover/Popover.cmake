@@ -22,9 +22,6 @@ list(APPEND TOCCA_UI_QML
     Popover/Packs/PackDropTarget.qml
     Popover/Packs/SoundPackRow.qml
     Popover/Packs/SoundPackSection.qml)
-list(APPEND TOCCA_UI_SOURCES
-    Popover/MenuBarViewModel.cpp
-    Popover/Packs/SoundPackRowsViewModel.cpp)
-list(APPEND TOCCA_UI_HEADERS
-    UI/Popover/MenuBarViewModel.h
-    UI/Popover/Packs/SoundPackRowsViewModel.h)
+list(APPEND TOCCA_UI_UNITS
+    Popover/MenuBarViewModel
+    Popover/Packs/SoundPackRowsViewModel)

@@ -33,30 +33,16 @@ list(APPEND TOCCA_UI_QML
     Studio/WindowMenu/MenuBarTitle.qml
     Studio/WindowMenu/MenuSheet.qml
     Studio/WindowMenu/MenuSheetItem.qml)
-list(APPEND TOCCA_UI_SOURCES
-    Studio/MainWindowViewModel.cpp
-    Studio/Acoustics/AcousticsViewModel.cpp
-    Studio/Pages/PrivacyViewModel.cpp
-    Studio/Pages/SettingsViewModel.cpp
-    Studio/Showroom/ShowroomCardsViewModel.cpp
-    Studio/Showroom/ShowroomViewModel.cpp
-    Studio/Stage/MiniKeyboardRowViewModel.cpp
-    Studio/Stage/MiniKeyboardViewModel.cpp
-    Studio/Stage/StageViewModel.cpp
-    Studio/WindowMenu/MainMenuViewModel.cpp
-    Studio/WindowMenu/MenuItemsViewModel.cpp)
-list(APPEND TOCCA_UI_HEADERS
-    UI/Studio/MainWindowViewModel.h
-    UI/Studio/Acoustics/AcousticsViewModel.h
-    UI/Studio/Pages/PrivacyViewModel.h
-    UI/Studio/Pages/SettingsViewModel.h
-    UI/Studio/Pages/TelemetryViewModel.h
-    UI/Studio/Showroom/ShowroomCardsViewModel.h
-    UI/Studio/Showroom/ShowroomViewModel.h
-    UI/Studio/Stage/MiniKeyboardRowViewModel.h
-    UI/Studio/Stage/MiniKeyboardViewModel.h
-    UI/Studio/Stage/StageViewModel.h
-    UI/Studio/WindowMenu/MainMenuViewModel.h
-    UI/Studio/WindowMenu/MenuItemsViewModel.h)
-# Moc reads what has no source of its own from here.
-list(APPEND TOCCA_UI_SOURCES Studio/Pages/TelemetryViewModel.h)
+list(APPEND TOCCA_UI_UNITS
+    Studio/MainWindowViewModel
+    Studio/Acoustics/AcousticsViewModel
+    Studio/Pages/PrivacyViewModel
+    Studio/Pages/SettingsViewModel
+    Studio/Showroom/ShowroomCardsViewModel
+    Studio/Showroom/ShowroomViewModel
+    Studio/Stage/MiniKeyboardRowViewModel
+    Studio/Stage/MiniKeyboardViewModel
+    Studio/Stage/StageViewModel
+    Studio/WindowMenu/MainMenuViewModel
+    Studio/WindowMenu/MenuItemsViewModel)
+list(APPEND TOCCA_UI_HEADERS Studio/Pages/TelemetryViewModel.h)

@@ -1,5 +1,3 @@
-list(APPEND TOCCA_UI_SOURCES Symbols/Symbol.cpp Symbols/SymbolDrawings.cpp)
-list(APPEND TOCCA_UI_HEADERS UI/Symbols/Symbol.h UI/Symbols/SymbolDrawings.h)
 list(APPEND TOCCA_UI_RESOURCES
     Symbols/arrow.left.svg
     Symbols/arrow.right.svg
@@ -51,3 +49,6 @@ list(APPEND TOCCA_UI_RESOURCES
     Symbols/waveform.path.ecg.svg
     Symbols/xmark.svg
     Symbols/xmark.circle.fill.svg)
+list(APPEND TOCCA_UI_UNITS
+    Symbols/Symbol
+    Symbols/SymbolDrawings)

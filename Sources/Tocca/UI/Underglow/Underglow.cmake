@@ -1,5 +1,2 @@
 list(APPEND TOCCA_UI_QML Underglow/SpatialUnderglowContentView.qml)
-list(APPEND TOCCA_UI_SOURCES
-    Underglow/SpatialUnderglowViewModel.cpp)
-list(APPEND TOCCA_UI_HEADERS
-    UI/Underglow/SpatialUnderglowViewModel.h)
+list(APPEND TOCCA_UI_UNITS Underglow/SpatialUnderglowViewModel)
