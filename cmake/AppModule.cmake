@@ -21,6 +21,14 @@ if(TOCCA_SANITIZE)
     target_compile_options(tocca_options INTERFACE -fsanitize=${TOCCA_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(tocca_options INTERFACE -fsanitize=${TOCCA_SANITIZE})
 endif()
+# app_precompile(NAME HEADER…): the libraries' headers that most sources of a target read are read once.
+# An include that is missing goes unseen then, so something must be built without.
+function(app_precompile name)
+    if(TOCCA_PRECOMPILE)
+        target_precompile_headers(${name} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
 find_package(Threads REQUIRED)
 target_link_libraries(tocca_options INTERFACE Threads::Threads)
 
@@ -58,7 +66,25 @@ function(app_test_program name)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/Tests ${PROJECT_SOURCE_DIR}/Tools)
     # A test waits for what it tests, not for itself; optimising its macros takes longer than running them.
     target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
+    if(NOT TOCCA_PRECOMPILE)
+        return()
+    endif()
+    list(LENGTH ARG_SOURCES count)
+    if(NOT ARG_DEPENDS MATCHES "Qt6::|PkgConfig::|_(ui|x11|desktop|audio)(;|$)")
+        target_precompile_headers(${name} REUSE_FROM tocca_test_headers)
+    elseif(count GREATER 2)
+        app_precompile(${name} ${test_headers}) # compiled with flags of its libraries' own
+    endif()
 endfunction()
+
+set(test_headers <gmock/gmock.h> <gtest/gtest.h> <filesystem> <functional> <memory> <optional> <string> <vector>)
+if(TOCCA_PRECOMPILE AND BUILD_TESTING)
+    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/TestHeaders.cpp CONTENT "")
+    add_library(tocca_test_headers OBJECT ${PROJECT_BINARY_DIR}/TestHeaders.cpp)
+    target_link_libraries(tocca_test_headers PRIVATE tocca_options GTest::gmock GTest::gtest)
+    target_compile_options(tocca_test_headers PRIVATE $<$<CONFIG:Release>:-O0>)
+    app_precompile(tocca_test_headers ${test_headers})
+endif()
 
 # app_test(NAME SOURCES … DEPENDS … [LABELS …] [PROPERTIES …]): a GoogleTest program whose cases ctest knows one by one.
 function(app_test name)

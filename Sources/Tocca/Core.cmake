@@ -51,3 +51,4 @@ app_module(tocca_core
         UI/Underglow/Glow.h
     DEPENDS tocca_platform
     PRIVATE_DEPENDS simdjson::simdjson)
+app_precompile(tocca_core <algorithm> <filesystem> <functional> <map> <memory> <optional> <string> <vector>)

@@ -7,7 +7,7 @@ Most of the checker's time goes into the headers of libraries, so sources that a
 time. Those that cannot be compiled together, for two of them have the same name for different things, are taken apart again.
 
 A source passes without being looked at again while its compile command, the checks and every file of the repository that
-it is made of are what they were when it last passed; the stamps are in BUILD_DIRECTORY/tidy.
+it is made of are what they were when it last passed, in whichever checkout that was; the stamps are in the user's cache.
 """
 
 import hashlib
@@ -17,6 +17,7 @@ import re
 import shlex
 import subprocess
 import sys
+import time
 from collections import defaultdict
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
@@ -24,6 +25,8 @@ from pathlib import Path
 TIDY = "clang-tidy-14"
 FOLDERS = ("Sources", "Tools", "Tests", "Benchmarks")
 ROOT = Path(__file__).resolve().parents[2]
+STAMPS = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "tocca/tidy"
+OLD = 60 * 24 * 3600  # seconds after which a stamp that nobody asked for goes
 MOST_TOGETHER = 10
 
 
@@ -51,19 +54,29 @@ def output(entry):
 
 
 def flags(entry):
-    """What a compile command says beside the names of its files."""
+    """What a compile command says beside the names of its files. The checker reads headers itself, not the compiler's precompiled ones."""
     words = shlex.split(entry["command"])
     at = words.index("-o")
-    return tuple(word for word in words[:at] + words[at + 2:] if word not in (entry["file"], "-c"))
+    words = words[:at] + words[at + 2:]
+    for i, word in reversed(list(enumerate(words))):
+        if word == "-include" and "cmake_pch" in words[i + 1]:
+            del words[i:i + 2]
+    return tuple(word for word in words if word not in (entry["file"], "-c", "-Winvalid-pch"))
 
 
 def fingerprint(entry, files, common):
     digest = hashlib.sha256(common)
-    digest.update(entry["command"].encode())
+    digest.update(entry["command"].replace(str(ROOT), "").encode())
     for file in sorted({Path(entry["file"]), *files}):
         digest.update(f"\n{file.relative_to(ROOT)}\n".encode())
         digest.update(file.read_bytes())
     return digest.hexdigest()
+
+
+def clear_old(folder):
+    for stamp in folder.iterdir():
+        if time.time() - stamp.stat().st_mtime > OLD:
+            stamp.unlink(missing_ok=True)
 
 
 def configurations():
@@ -113,8 +126,10 @@ def main():
     if len(sys.argv) != 2:
         sys.exit(__doc__)
     build = Path(sys.argv[1]).resolve()
-    stamps = build / "tidy"
-    stamps.mkdir(exist_ok=True)
+    work = build / "tidy"
+    work.mkdir(exist_ok=True)
+    STAMPS.mkdir(parents=True, exist_ok=True)
+    clear_old(STAMPS)
     version = subprocess.run([TIDY, "--version"], capture_output=True, text=True, check=True).stdout
     common = version.encode() + b"".join(file.read_bytes() for file in configurations())
     made_of = dependencies(build)
@@ -125,13 +140,15 @@ def main():
         if not is_ours(Path(entry["file"])):
             continue
         total += 1
-        stamp = stamps / fingerprint(entry, made_of.get(output(entry), ()), common)
-        if not stamp.exists():
+        stamp = STAMPS / fingerprint(entry, made_of.get(output(entry), ()), common)
+        if stamp.exists():
+            stamp.touch()
+        else:
             key = configuration_of(entry["file"]), flags(entry), entry["directory"]
             groups[key].setdefault(entry["file"], []).append(stamp)
     print(f"{total} sources, {sum(map(len, groups.values()))} to look at", flush=True)
 
-    checker = Checker(stamps)
+    checker = Checker(work)
     for where in {where for where, _, _ in groups}:
         checker.configure(where)
     failed = False

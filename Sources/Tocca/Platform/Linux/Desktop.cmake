@@ -80,6 +80,9 @@ app_module(tocca_linux_desktop
         Platform/Linux/Qt/Windows/QuickView.h
         Platform/Linux/Tray/MenuNode.h
     DEPENDS tocca_linux_audio tocca_linux_x11 Qt6::Core Qt6::DBus Qt6::Gui Qt6::Qml Qt6::Quick)
+app_precompile(tocca_linux_desktop
+    <functional> <memory> <optional> <string> <vector>
+    <QDBusConnection> <QDBusPendingCallWatcher> <QGuiApplication> <QObject> <QQuickWindow> <QTimer>)
 # The compiler's own macros would make a number of the namespace `linux`.
 set_target_properties(tocca_linux_desktop PROPERTIES AUTOMOC ON AUTOMOC_COMPILER_PREDEFINES OFF)
 target_compile_definitions(tocca_linux_desktop
