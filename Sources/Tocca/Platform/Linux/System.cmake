@@ -31,5 +31,4 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxHaptics.h
         Platform/Linux/System/LowerCase.h
         Platform/Linux/System/SecureInput.h
-        Platform/Linux/System/SecureInputReasons.h
     DEPENDS tocca_platform)

@@ -2,7 +2,6 @@
 
 #include "Platform/Linux/Freedesktop/Applications/WindowOwner.h"
 #include "Platform/Linux/System/ProcessNames.h"
-#include "Platform/Linux/System/SecureInputReasons.h"
 #include "Platform/Linux/System/WaylandSession.h"
 
 #include <QProcess>
@@ -69,7 +68,7 @@ void LinuxWorkspace::connect()
 {
     watch_ = DesktopWatch::open(
         {.frontChanged = [this](const std::optional<WindowFacts>& window) { setFront(window); },
-         .promptChanged = [this](bool isPrompting) { secureInput_.set(secure::kPrompt, isPrompting); }});
+         .promptChanged = [this](bool isPrompting) { secureInput_.set(SecureInput::kPrompt, isPrompting); }});
     if (!watch_) {
         retry_ = timers_.scheduleOnce(kRetry, [this] { connect(); });
         return;
@@ -91,7 +90,7 @@ void LinuxWorkspace::lose()
 {
     notifier_.reset();
     watch_.reset();
-    secureInput_.set(secure::kPrompt, false);
+    secureInput_.set(SecureInput::kPrompt, false);
     setFront(std::nullopt);
     retry_ = timers_.scheduleOnce(kRetry, [this] { connect(); });
 }

@@ -2,7 +2,6 @@
 
 #include "Platform/Linux/Freedesktop/LoginSessionWatch.h"
 #include "Platform/Linux/Freedesktop/ScreenSaverWatch.h"
-#include "Platform/Linux/System/SecureInputReasons.h"
 
 #include <QDBusConnection>
 
@@ -20,7 +19,7 @@ constexpr std::array kScreenSavers{
     ScreenSaverWatch::Service{"org.xfce.ScreenSaver", "/org/xfce/ScreenSaver"},
 };
 
-static_assert(secure::kFirstScreenSaver + kScreenSavers.size() <= SecureInput::kReasons);
+static_assert(SecureInput::kFirstScreenSaver + kScreenSavers.size() <= SecureInput::kReasons);
 
 } // namespace
 
@@ -28,13 +27,13 @@ SessionLock::SessionLock(SecureInput& secureInput)
 {
     if (const auto system = QDBusConnection::systemBus(); system.isConnected()) {
         watches_.push_back(std::make_unique<LoginSessionWatch>(
-            system, [&secureInput](bool isLocked) { secureInput.set(secure::kSessionLock, isLocked); }));
+            system, [&secureInput](bool isLocked) { secureInput.set(SecureInput::kSessionLock, isLocked); }));
     }
     const auto session = QDBusConnection::sessionBus();
     if (!session.isConnected()) {
         return;
     }
-    unsigned reason = secure::kFirstScreenSaver;
+    unsigned reason = SecureInput::kFirstScreenSaver;
     for (const auto& service : kScreenSavers) {
         watches_.push_back(std::make_unique<ScreenSaverWatch>(
             session, service, [&secureInput, reason](bool isActive) { secureInput.set(reason, isActive); }));

@@ -5,15 +5,19 @@
 
 namespace tocca::platform::linux {
 
-/// Whether what is typed is somebody's secret just now, so that no key may be reported.
+/// Whether a secret may be typed just now, so that no key may be reported: true while at least one reason stands.
 ///
-/// Several observers each hold a reason of their own; there is silence while any of them stands.
 /// Threads: `set`: main. `isActive`: any.
 /// Real-time: wait-free.
 class SecureInput {
 public:
-    /// Reasons below this number are free for the observers; see where they are made.
-    static constexpr unsigned kReasons = 32;
+    /// Each is set and cleared by one observer.
+    enum Reason : unsigned {
+        kPrompt,           ///< a window of a lock screen or a password prompt has the keyboard
+        kSessionLock,      ///< the login manager says that the session is locked
+        kFirstScreenSaver, ///< the first of several screen saver services is active; each has the next number
+        kReasons = 32
+    };
 
     void set(unsigned reason, bool stands) noexcept
     {
