@@ -1,6 +1,6 @@
 #include "Platform/Linux/Audio/PipeWire/ActivityGate.h"
 
-#include "Platform/Linux/Audio/OutputMeter.h"
+#include "Platform/Linux/System/LinuxClock.h"
 
 #include <gtest/gtest.h>
 

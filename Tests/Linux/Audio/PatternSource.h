@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Linux/Audio/OutputMeter.h"
+#include "Platform/Linux/System/LinuxClock.h"
 #include "Player/RenderSource.h"
 #include "Support/ThreadRole.h"
 

@@ -2,6 +2,7 @@
 
 #include "PatternSource.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
+#include "Platform/Linux/System/LinuxClock.h"
 #include "Platform/StandardOutput.h"
 
 #include <gtest/gtest.h>

@@ -7,7 +7,6 @@ app_module(tocca_linux_system
         Platform/Linux/Freedesktop/Applications/LinuxLoginItem
         Platform/Linux/Freedesktop/Applications/WindowOwner
         Platform/Linux/System/FileDescriptor
-        Platform/Linux/System/LinuxClock
         Platform/Linux/System/LinuxRandom
         Platform/Linux/System/LinuxStandardOutput
         Platform/Linux/System/ProcessNames
@@ -28,6 +27,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/Threads/Scheduling
         Platform/Linux/System/Threads/WakeDescriptor
     HEADERS
+        Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxHaptics.h
         Platform/Linux/System/LowerCase.h
         Platform/Linux/System/SecureInput.h

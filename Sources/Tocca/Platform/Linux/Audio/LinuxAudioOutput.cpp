@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/Audio/PipeWire/PipeWireOutput.h"
 #include "Platform/Linux/Audio/PulseAudio/PulseOutput.h"
+#include "Platform/Linux/System/LinuxClock.h"
 #include "Platform/Linux/System/Threads/Scheduling.h"
 
 #include <utility>

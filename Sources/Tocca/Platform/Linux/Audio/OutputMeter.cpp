@@ -2,16 +2,7 @@
 
 #include "Support/ThreadRole.h"
 
-#include <ctime>
-
 namespace tocca::platform::linux {
-
-double monotonicSeconds() noexcept
-{
-    timespec now{};
-    clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 void OutputMeter::render(player::RenderSource& source, std::span<float> frames,
                          const player::RenderCycle& cycle) noexcept

@@ -9,9 +9,6 @@
 
 namespace tocca::platform::linux {
 
-/// Seconds of CLOCK_MONOTONIC, the clock of the sound servers' cycles. Threads: any. Real-time: wait-free.
-[[nodiscard]] double monotonicSeconds() noexcept REALTIME;
-
 /// Calls the render source for a sound server and keeps count of what happened.
 ///
 /// Threads: what renders and counts: render. Everything else: any.

@@ -17,7 +17,7 @@ bool LocalKeys::eventFilter(QObject* /*watched*/, QEvent* event)
     case QEvent::FocusOut:
         // Whatever is down is let go of somewhere else.
         keys_.resynchronize(
-            {}, false, [this](const KeyTransition& transition) { deliver(transition, LinuxClock().now()); });
+            {}, false, [this](const KeyTransition& transition) { deliver(transition, monotonicSeconds()); });
         break;
     default:
         break;
@@ -37,7 +37,7 @@ void LocalKeys::take(const QKeyEvent& event)
         return; // the key is still down
     }
     constexpr quint32 kLock = 2; // Caps Lock among X's modifiers, as it was before the key
-    const double time = timeOfEvent(LinuxClock().now(), static_cast<std::uint32_t>(event.timestamp()));
+    const double time = timeOfEvent(monotonicSeconds(), static_cast<std::uint32_t>(event.timestamp()));
     if (const auto change = keys_.setLocked((event.nativeModifiers() & kLock) != 0)) {
         deliver(*change, time);
     }

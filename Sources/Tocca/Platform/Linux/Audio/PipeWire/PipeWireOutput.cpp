@@ -1,5 +1,7 @@
 #include "Platform/Linux/Audio/PipeWire/PipeWireOutput.h"
 
+#include "Platform/Linux/System/LinuxClock.h"
+
 #include <pipewire/pipewire.h>
 #include <pthread.h>
 

@@ -1,5 +1,7 @@
 #include "Platform/Linux/Audio/PulseAudio/PulseOutput.h"
 
+#include "Platform/Linux/System/LinuxClock.h"
+
 #include <pulse/pulseaudio.h>
 
 #include <algorithm>

@@ -3,11 +3,11 @@
 #include "Platform/Linux/System/FileDescriptor.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <map>
 #include <utility>
 
@@ -26,9 +26,7 @@ constexpr double kLongestSeconds = 1e9;
 
 Nanoseconds now() noexcept
 {
-    timespec time{};
-    ::clock_gettime(CLOCK_MONOTONIC, &time);
-    return time.tv_sec * kPerSecond + time.tv_nsec;
+    return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 /// Rounds up, so that nothing fires too soon.
