@@ -1,5 +1,7 @@
 #include "Platform/Linux/Freedesktop/ApplicationService.h"
 
+#include "Platform/Linux/System/ApplicationId.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
@@ -9,7 +11,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-const auto kName = QStringLiteral("org.tocca.Tocca");
+const QLatin1String kName(kApplicationId);
 const auto kPath = QStringLiteral("/org/tocca/Tocca");
 const auto kInterface = QStringLiteral("org.freedesktop.Application");
 const auto kToken = QStringLiteral("activation-token"); // by which a desktop lets a window come to the front

@@ -1,5 +1,7 @@
 #include "Platform/Linux/Freedesktop/DesktopNotice.h"
 
+#include "Platform/Linux/System/ApplicationId.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QStringList>
@@ -17,8 +19,8 @@ void sendDesktopNotice(const QDBusConnection& bus, const QString& text)
         QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
     constexpr uint kNew = 0;
     constexpr int kUsualTime = -1;
-    const QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("org.tocca.Tocca")}};
-    call << QStringLiteral("Tocca") << kNew << QStringLiteral("org.tocca.Tocca") << QStringLiteral("Tocca")
+    const QVariantMap hints{{QStringLiteral("desktop-entry"), QLatin1String(kApplicationId)}};
+    call << QStringLiteral("Tocca") << kNew << QLatin1String(kApplicationId) << QStringLiteral("Tocca")
          << text << QStringList() << hints << kUsualTime;
     bus.asyncCall(call);
 }

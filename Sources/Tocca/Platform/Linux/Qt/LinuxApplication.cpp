@@ -1,11 +1,11 @@
 #include "Platform/Linux/Qt/LinuxApplication.h"
 
-#include "Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h"
 #include "Platform/Linux/Freedesktop/DesktopNotice.h"
 #include "Platform/Linux/Qt/ApplicationIcon.h"
 #include "Platform/Linux/Qt/Later.h"
 #include "Platform/Linux/Qt/Windows/ContentWindow.h"
 #include "Platform/Linux/Qt/Windows/WindowActivation.h"
+#include "Platform/Linux/System/ApplicationId.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>

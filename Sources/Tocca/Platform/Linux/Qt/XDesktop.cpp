@@ -1,6 +1,6 @@
 #include "Platform/Linux/Qt/XDesktop.h"
 
-#include "Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h"
+#include "Platform/Linux/System/ApplicationId.h"
 
 #include <QGuiApplication>
 #include <QWindow>

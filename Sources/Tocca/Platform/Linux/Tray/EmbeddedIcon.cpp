@@ -1,11 +1,13 @@
 #include "Platform/Linux/Tray/EmbeddedIcon.h"
 
+#include "Platform/Linux/System/ApplicationId.h"
 #include "Platform/Linux/X11/XReply.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstring>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -78,9 +80,9 @@ void EmbeddedIcon::create(xcb_window_t tray)
     context_ = xcb_generate_id(connection);
     xcb_create_gc(connection, context_, window_, 0, nullptr);
 
-    constexpr std::string_view kClass("tocca\0org.tocca.Tocca\0", 22);
+    const std::string windowClass = std::string("tocca") + '\0' + kApplicationId + '\0'; // instance and class
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
-                        kClass.size(), kClass.data());
+                        static_cast<std::uint32_t>(windowClass.size()), windowClass.data());
     constexpr std::string_view kName("Tocca");
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
                         kName.size(), kName.data());

@@ -1,5 +1,6 @@
 #include "Platform/Linux/Tray/LinuxStatusBar.h"
 
+#include "Platform/Linux/System/ApplicationId.h"
 #include "Platform/Linux/Tray/IconPainting.h"
 
 #include <QCursor>
@@ -14,7 +15,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-const auto kIconName = QStringLiteral("org.tocca.Tocca-symbolic");
+const QString kIconName = QLatin1String(kApplicationId) + QStringLiteral("-symbolic");
 const auto kMenuPath = QStringLiteral("/StatusItemMenu");
 const QColor kLight(0xEE, 0xEE, 0xEE); // most trays are dark, and the icon has a rim
 

@@ -1,6 +1,7 @@
 #include "Platform/Linux/Freedesktop/Applications/LinuxLoginItem.h"
 
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntry.h"
+#include "Platform/Linux/System/ApplicationId.h"
 #include "Platform/Linux/System/Files/FileError.h"
 #include "Platform/Linux/System/Files/FileReplacement.h"
 #include "Platform/Linux/System/Files/LinuxDirectories.h"

@@ -9,9 +9,6 @@
 
 namespace tocca::platform::linux {
 
-/// The program's identity on the desktop: what its entry, icon and bus name are called.
-inline constexpr const char* kApplicationId = "org.tocca.Tocca";
-
 /// An XDG autostart entry. The file is the truth: it is read each time, and the user's own hides one of the system's.
 class LinuxLoginItem : public LoginItem {
 public:
