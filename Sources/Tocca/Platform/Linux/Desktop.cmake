@@ -76,6 +76,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Tray/StatusNotifierTypes
         Platform/Linux/Tray/StatusNotifierWatch
     HEADERS
+        Platform/Linux/Freedesktop/DBusReply.h
         Platform/Linux/Qt/Later.h
         Platform/Linux/Qt/Windows/QuickView.h
         Platform/Linux/Tray/MenuNode.h

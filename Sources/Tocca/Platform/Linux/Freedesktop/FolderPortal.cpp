@@ -1,11 +1,10 @@
 #include "Platform/Linux/Freedesktop/FolderPortal.h"
 
+#include "Platform/Linux/Freedesktop/DBusReply.h"
 #include "Platform/Linux/Qt/Later.h"
 
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QStringList>
 #include <QUrl>
 
@@ -46,11 +45,8 @@ void FolderPortal::ask(const QString& prompt, const QString& parent)
                               {QStringLiteral("accept_label"), prompt},
                               {QStringLiteral("directory"), true},
                               {QStringLiteral("modal"), true}};
-    auto* const reply =
-        new QDBusPendingCallWatcher(bus_.asyncCall(call << parent << prompt << options), this);
-    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
-        reply->deleteLater();
-        if (reply->isError()) {
+    whenAnswered(bus_.asyncCall(call << parent << prompt << options), *this, [this](const auto& reply) {
+        if (reply.isError()) {
             observers_.unavailable();
         }
     });

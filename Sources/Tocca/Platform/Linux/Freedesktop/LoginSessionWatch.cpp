@@ -1,9 +1,9 @@
 #include "Platform/Linux/Freedesktop/LoginSessionWatch.h"
 
+#include "Platform/Linux/Freedesktop/DBusReply.h"
+
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusVariant>
 
 #include <utility>
@@ -27,12 +27,9 @@ LoginSessionWatch::LoginSessionWatch(QDBusConnection bus, std::function<void(boo
                                                QStringLiteral("org.freedesktop.login1.Manager"),
                                                QStringLiteral("GetSession"));
     call.setAutoStartService(false);
-    call << QStringLiteral(
-        "auto"); // the caller's own, or the one on the user's screen for services of the user
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<QDBusObjectPath> reply = *answer;
+    // "auto" is the session that this program belongs to, or, for a service of the user, the one on the user's screen.
+    call << QStringLiteral("auto");
+    whenAnswered<QDBusObjectPath>(bus_.asyncCall(call), *this, [this](const auto& reply) {
         if (reply.isValid()) {
             follow(reply.value().path());
         }
@@ -45,10 +42,7 @@ void LoginSessionWatch::follow(const QString& session)
                  SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
     auto call = QDBusMessage::createMethodCall(kService, session, kProperties, QStringLiteral("Get"));
     call << kSession << kLockedHint;
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
+    whenAnswered<QDBusVariant>(bus_.asyncCall(call), *this, [this](const auto& reply) {
         if (reply.isValid() && !hasHeard_) {
             report_(reply.value().variant().toBool());
         }

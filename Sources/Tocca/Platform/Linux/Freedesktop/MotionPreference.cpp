@@ -1,8 +1,8 @@
 #include "Platform/Linux/Freedesktop/MotionPreference.h"
 
+#include "Platform/Linux/Freedesktop/DBusReply.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 #include <utility>
 
@@ -28,13 +28,10 @@ MotionPreference::MotionPreference(const QDBusConnection& bus, std::function<voi
                                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     auto call = QDBusMessage::createMethodCall(kPortal, kPath, kSettings, QStringLiteral("Read"));
     call << kSpace << kKey;
-    auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this); // its parent's
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+    whenAnswered<QDBusVariant>(bus.asyncCall(call), *this, [this](const auto& reply) {
         if (reply.isValid()) {
             take(reply.value().variant());
         }
-        watcher->deleteLater();
     });
 }
 

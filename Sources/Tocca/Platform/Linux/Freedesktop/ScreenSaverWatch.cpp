@@ -1,8 +1,8 @@
 #include "Platform/Linux/Freedesktop/ScreenSaverWatch.h"
 
+#include "Platform/Linux/Freedesktop/DBusReply.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 
 #include <utility>
 
@@ -30,15 +30,11 @@ void ScreenSaverWatch::ask()
     auto call = QDBusMessage::createMethodCall(QLatin1String(service_.name), QLatin1String(service_.path),
                                                QLatin1String(service_.name), QStringLiteral("GetActive"));
     call.setAutoStartService(false);
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
-                     [this, answer, question = ++question_] {
-                         answer->deleteLater();
-                         const QDBusPendingReply<bool> reply = *answer;
-                         if (question == question_ && reply.isValid()) {
-                             report_(reply.value());
-                         }
-                     });
+    whenAnswered<bool>(bus_.asyncCall(call), *this, [this, question = ++question_](const auto& reply) {
+        if (question == question_ && reply.isValid()) {
+            report_(reply.value());
+        }
+    });
 }
 
 void ScreenSaverWatch::activeChanged(bool isActive)

@@ -1,8 +1,8 @@
 #include "Platform/Linux/Tray/StatusNotifierWatch.h"
 
+#include "Platform/Linux/Freedesktop/DBusReply.h"
+
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusVariant>
 
 #include <utility>
@@ -48,15 +48,12 @@ void StatusNotifierWatch::ask()
         kService, kPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call.setAutoStartService(false);
     call << kService << QStringLiteral("IsStatusNotifierHostRegistered");
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this,
-                     [this, answer, question = ++question_] {
-                         answer->deleteLater();
-                         const QDBusPendingReply<QDBusVariant> reply = *answer;
-                         if (question == question_) {
-                             setHost(reply.isValid() && reply.value().variant().toBool());
-                         }
-                     });
+    whenAnswered<QDBusVariant>(bus_.asyncCall(call), *this,
+                               [this, question = ++question_](const auto& reply) {
+                                   if (question == question_) {
+                                       setHost(reply.isValid() && reply.value().variant().toBool());
+                                   }
+                               });
 }
 
 void StatusNotifierWatch::setHost(bool hasHost)

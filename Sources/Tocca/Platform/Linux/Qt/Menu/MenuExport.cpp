@@ -1,12 +1,12 @@
 #include "Platform/Linux/Qt/Menu/MenuExport.h"
 
+#include "Platform/Linux/Freedesktop/DBusReply.h"
 #include "Platform/Linux/Qt/Windows/ContentWindow.h"
 #include "Platform/Linux/Qt/XDesktop.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QEvent>
 
 #include <utility>
@@ -35,17 +35,12 @@ MenuExport::MenuExport(QDBusConnection bus, OwnWindows& windows, MenuSource menu
     windows_.setMadeObserver([this](ContentWindow& window) { window.installEventFilter(this); });
     connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, [this] { setRegistrar(true); });
     connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setRegistrar(false); });
-    auto call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
-    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(call << kRegistrar), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<bool> reply = *answer;
-        if (reply.isValid() && reply.value()) {
-            setRegistrar(true);
-        }
-    });
+    whenAnswered<bool>(bus_.interface()->asyncCall(QStringLiteral("NameHasOwner"), kRegistrar), *this,
+                       [this](const auto& reply) {
+                           if (reply.isValid() && reply.value()) {
+                               setRegistrar(true);
+                           }
+                       });
 }
 
 bool MenuExport::eventFilter(QObject* watched, QEvent* event)
