@@ -11,30 +11,23 @@
 
 namespace tocca::platform::linux {
 
-/// A menu that the desktop shows for us, by the protocol that trays and global menu bars share.
+/// A menu as an object of the DBusMenu protocol, by which trays and global menu bars show it.
 ///
-/// Entries are numbered in reading order from 0, the menu itself, so a source must not change what there is, only how it is.
+/// The menu itself is entry 0, and its entries are numbered from there in reading order. A number must keep its meaning, so a source
+/// may change texts and check marks, but not which entries there are.
 /// Threads: main.
 class DBusMenu : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
-    Q_PROPERTY(uint Version READ version CONSTANT)
-    Q_PROPERTY(QString Status READ status CONSTANT)
-    Q_PROPERTY(QString TextDirection READ textDirection CONSTANT)
-    Q_PROPERTY(QStringList IconThemePath READ iconThemePath CONSTANT)
+    Q_PROPERTY(uint Version MEMBER version_ CONSTANT)
+    Q_PROPERTY(QString Status MEMBER status_ CONSTANT)
+    Q_PROPERTY(QString TextDirection MEMBER textDirection_ CONSTANT)
+    Q_PROPERTY(QStringList IconThemePath MEMBER iconThemePath_ CONSTANT)
 
 public:
     /// Offers the menu at `path`.
     DBusMenu(QDBusConnection bus, QString path, MenuSource source);
     ~DBusMenu() override;
-
-    [[nodiscard]] uint version() const { return 3; }
-
-    [[nodiscard]] QString status() const { return QStringLiteral("normal"); }
-
-    [[nodiscard]] QString textDirection() const { return QStringLiteral("ltr"); }
-
-    [[nodiscard]] QStringList iconThemePath() const { return {}; }
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
     // By the names of the protocol.
@@ -67,6 +60,10 @@ private:
     QDBusConnection bus_;
     const QString path_;
     const MenuSource source_;
+    const uint version_ = 3;
+    const QString status_ = QStringLiteral("normal");
+    const QString textDirection_ = QStringLiteral("ltr");
+    const QStringList iconThemePath_;
     std::vector<Entry> entries_; // by number
     uint revision_ = 1;
 };

@@ -3,7 +3,6 @@
 #include <QDBusArgument>
 #include <QDBusVariant>
 #include <QList>
-#include <QMetaType>
 #include <QVariantMap>
 
 namespace tocca::platform::linux {
@@ -40,7 +39,3 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, DBusMenuEvent& ev
 void registerDBusMenuTypes();
 
 } // namespace tocca::platform::linux
-
-Q_DECLARE_METATYPE(tocca::platform::linux::DBusMenuEntry)
-Q_DECLARE_METATYPE(tocca::platform::linux::DBusMenuTree)
-Q_DECLARE_METATYPE(tocca::platform::linux::DBusMenuEvent)

@@ -12,7 +12,7 @@ const auto kPath = QStringLiteral("/StatusNotifierItem"); // the only one that e
 
 StatusNotifierItem::StatusNotifierItem(QDBusConnection bus, QString menuPath, Observers observers)
     : bus_(std::move(bus))
-    , menuPath_(std::move(menuPath))
+    , menu_(std::move(menuPath))
     , observers_(std::move(observers))
 {
     registerStatusNotifierTypes();
@@ -50,7 +50,7 @@ void StatusNotifierItem::ContextMenu(int x, int y)
 
 void StatusNotifierItem::ProvideXdgActivationToken(const QString& token)
 {
-    // The toolkit hands it in with the next activation of a window.
+    // Qt uses the token when it next activates a window.
     qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/Linux/System/ApplicationId.h"
 #include "Platform/Linux/Tray/StatusNotifierTypes.h"
 
 #include <QDBusConnection>
@@ -12,26 +13,26 @@
 
 namespace tocca::platform::linux {
 
-/// A status icon that the desktop draws, as the bus's protocol for that wants it. Threads: main.
+/// The tray icon as an object of the StatusNotifierItem protocol, by which a desktop draws it itself. Threads: main.
 class StatusNotifierItem : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
-    Q_PROPERTY(QString Category READ category CONSTANT)
-    Q_PROPERTY(QString Id READ id CONSTANT)
-    Q_PROPERTY(QString Title READ title CONSTANT)
-    Q_PROPERTY(QString Status READ status CONSTANT)
-    Q_PROPERTY(int WindowId READ windowId CONSTANT)
+    Q_PROPERTY(QString Category MEMBER category_ CONSTANT)
+    Q_PROPERTY(QString Id MEMBER id_ CONSTANT)
+    Q_PROPERTY(QString Title MEMBER title_ CONSTANT)
+    Q_PROPERTY(QString Status MEMBER status_ CONSTANT)
+    Q_PROPERTY(int WindowId MEMBER windowId_ CONSTANT)
     Q_PROPERTY(QString IconName READ iconName)
     Q_PROPERTY(tocca::platform::linux::StatusPixmaps IconPixmap READ iconPixmap)
-    Q_PROPERTY(QString OverlayIconName READ none CONSTANT)
-    Q_PROPERTY(tocca::platform::linux::StatusPixmaps OverlayIconPixmap READ noPixmap CONSTANT)
-    Q_PROPERTY(QString AttentionIconName READ none CONSTANT)
-    Q_PROPERTY(tocca::platform::linux::StatusPixmaps AttentionIconPixmap READ noPixmap CONSTANT)
-    Q_PROPERTY(QString AttentionMovieName READ none CONSTANT)
-    Q_PROPERTY(tocca::platform::linux::StatusToolTip ToolTip READ toolTip CONSTANT)
-    Q_PROPERTY(QString IconThemePath READ none CONSTANT)
-    Q_PROPERTY(bool ItemIsMenu READ itemIsMenu CONSTANT)
-    Q_PROPERTY(QDBusObjectPath Menu READ menu CONSTANT)
+    Q_PROPERTY(QString OverlayIconName MEMBER none_ CONSTANT)
+    Q_PROPERTY(tocca::platform::linux::StatusPixmaps OverlayIconPixmap MEMBER noPixmap_ CONSTANT)
+    Q_PROPERTY(QString AttentionIconName MEMBER none_ CONSTANT)
+    Q_PROPERTY(tocca::platform::linux::StatusPixmaps AttentionIconPixmap MEMBER noPixmap_ CONSTANT)
+    Q_PROPERTY(QString AttentionMovieName MEMBER none_ CONSTANT)
+    Q_PROPERTY(tocca::platform::linux::StatusToolTip ToolTip MEMBER toolTip_ CONSTANT)
+    Q_PROPERTY(QString IconThemePath MEMBER none_ CONSTANT)
+    Q_PROPERTY(bool ItemIsMenu MEMBER itemIsMenu_ CONSTANT)
+    Q_PROPERTY(QDBusObjectPath Menu MEMBER menu_ CONSTANT)
 
 public:
     struct Observers {
@@ -46,29 +47,9 @@ public:
     /// `name` is that of an icon which the desktop has, or empty.
     void setIcon(const QString& name, const StatusPixmaps& pixmaps);
 
-    [[nodiscard]] QString category() const { return QStringLiteral("ApplicationStatus"); }
-
-    [[nodiscard]] QString id() const { return QStringLiteral("org.tocca.Tocca"); }
-
-    [[nodiscard]] QString title() const { return QStringLiteral("Tocca"); }
-
-    [[nodiscard]] QString status() const { return QStringLiteral("Active"); }
-
-    [[nodiscard]] int windowId() const { return 0; }
-
     [[nodiscard]] QString iconName() const { return iconName_; }
 
     [[nodiscard]] StatusPixmaps iconPixmap() const { return pixmaps_; }
-
-    [[nodiscard]] QString none() const { return {}; }
-
-    [[nodiscard]] StatusPixmaps noPixmap() const { return {}; }
-
-    [[nodiscard]] StatusToolTip toolTip() const { return {{}, {}, title(), {}}; }
-
-    [[nodiscard]] bool itemIsMenu() const { return false; }
-
-    [[nodiscard]] QDBusObjectPath menu() const { return QDBusObjectPath(menuPath_); }
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
     // By the names of the protocol.
@@ -85,8 +66,17 @@ Q_SIGNALS:
 
 private:
     QDBusConnection bus_;
-    const QString menuPath_;
+    const QDBusObjectPath menu_;
     const Observers observers_;
+    const QString category_ = QStringLiteral("ApplicationStatus");
+    const QString id_ = QLatin1String(kApplicationId);
+    const QString title_ = QStringLiteral("Tocca");
+    const QString status_ = QStringLiteral("Active");
+    const int windowId_ = 0;
+    const QString none_;
+    const StatusPixmaps noPixmap_;
+    const StatusToolTip toolTip_{{}, {}, title_, {}};
+    const bool itemIsMenu_ = false;
     QString iconName_;
     StatusPixmaps pixmaps_;
 };

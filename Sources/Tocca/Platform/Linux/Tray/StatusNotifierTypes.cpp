@@ -8,14 +8,10 @@ namespace tocca::platform::linux {
 StatusPixmap statusPixmap(const QImage& image)
 {
     const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
-    StatusPixmap pixmap{.width = argb.width(), .height = argb.height(), .bytes = {}};
-    for (int y = 0; y < argb.height(); ++y) {
-        const auto* const line = reinterpret_cast<const QRgb*>(argb.constScanLine(y));
-        for (int x = 0; x < argb.width(); ++x) {
-            const quint32 pixel = qToBigEndian(quint32{line[x]});
-            pixmap.bytes.append(reinterpret_cast<const char*>(&pixel), sizeof(pixel));
-        }
-    }
+    StatusPixmap pixmap{.width = argb.width(),
+                        .height = argb.height(),
+                        .bytes = QByteArray(argb.sizeInBytes(), Qt::Uninitialized)};
+    qToBigEndian<quint32>(argb.constBits(), argb.sizeInBytes() / 4, pixmap.bytes.data());
     return pixmap;
 }
 

@@ -4,7 +4,6 @@
 #include <QDBusArgument>
 #include <QImage>
 #include <QList>
-#include <QMetaType>
 #include <QString>
 
 namespace tocca::platform::linux {
@@ -37,6 +36,3 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, StatusToolTip& to
 void registerStatusNotifierTypes();
 
 } // namespace tocca::platform::linux
-
-Q_DECLARE_METATYPE(tocca::platform::linux::StatusPixmap)
-Q_DECLARE_METATYPE(tocca::platform::linux::StatusToolTip)
