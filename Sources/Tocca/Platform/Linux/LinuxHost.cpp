@@ -18,33 +18,12 @@ LinuxHost::LinuxHost()
 
 Host LinuxHost::with(AudioPlayers& players) noexcept
 {
-    return {.mainQueue = mainQueue_,
-            .serialQueues = serialQueues_,
-            .threads = threads_,
-            .timers = timers_,
-            .clock = clock_,
-            .eventTaps = eventTaps_,
-            .localMonitors = localMonitors_,
-            .trustQuery = trustQuery_,
-            .audioPlayers = players,
-            .audioDevices = audioDevices_,
-            .haptics = haptics_,
-            .workspace = workspace_,
-            .loginItem = loginItem_,
-            .directories = directories_,
-            .files = files_,
-            .fileStore = fileStore_,
-            .random = random_,
-            .standardOutput = standardOutput_,
-            .application = application_,
-            .screens = screens_,
-            .windows = windows_,
-            .panels = panels_,
-            .popovers = popovers_,
-            .statusBar = statusBar_,
-            .mainMenu = mainMenu_,
-            .openPanels = openPanels_,
-            .userDefaults = userDefaults_};
+    // Every service has a type of its own, so the compiler keeps the order.
+    return {mainQueue_,     serialQueues_, threads_,     timers_,       clock_,    eventTaps_,
+            localMonitors_, trustQuery_,   players,      audioDevices_, haptics_,  workspace_,
+            loginItem_,     directories_,  files_,       fileStore_,    random_,   standardOutput_,
+            application_,   screens_,      windows_,     panels_,       popovers_, statusBar_,
+            mainMenu_,      openPanels_,   userDefaults_};
 }
 
 SchedulingAppeal LinuxHost::appeal()
