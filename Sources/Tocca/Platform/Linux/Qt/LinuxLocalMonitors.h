@@ -7,15 +7,13 @@
 
 namespace tocca::platform::linux {
 
-/// Passes what the program's own windows receive on to the monitors.
+/// The local monitors, which are shown what the program's own windows receive.
 ///
 /// Threads: main.
 /// Order: monitors are called in the order they were added; one added during a delivery first hears the next event.
 /// Lifetime: a monitor may outlive this object.
 class LinuxLocalMonitors : public LocalMonitors {
 public:
-    LinuxLocalMonitors();
-
     [[nodiscard]] std::unique_ptr<LocalMonitor> add(EventMask mask, EventHandler handler) override;
 
     /// Shows the monitors an event that reached one of the windows.
@@ -27,10 +25,9 @@ private:
         EventHandler handler;
     };
 
-    using Entries = std::vector<std::shared_ptr<Entry>>;
     class Token;
 
-    std::shared_ptr<Entries> entries_;
+    std::vector<std::weak_ptr<Entry>> entries_; // each is its token's
 };
 
 } // namespace tocca::platform::linux
