@@ -23,6 +23,7 @@ app_module(tocca_linux_audio
         Platform/Linux/Audio/BlockClock.h
         Platform/Linux/Audio/DeviceServer.h
         Platform/Linux/Audio/ProgressWatch.h
+        Platform/Linux/Audio/ServerLink.h
         Platform/Linux/Audio/ServerOutput.h
     DEPENDS tocca_platform tocca_linux_system
     PRIVATE_DEPENDS PkgConfig::PIPEWIRE PkgConfig::PULSE)

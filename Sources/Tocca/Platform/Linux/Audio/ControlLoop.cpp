@@ -3,6 +3,7 @@
 #include <pipewire/pipewire.h>
 #include <spa/support/loop.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <ctime>
@@ -53,16 +54,21 @@ pw_loop* ControlLoop::native() const noexcept
     return pw_thread_loop_get_loop(loop_);
 }
 
-ControlEvent::ControlEvent(ControlLoop& loop, std::function<void()> call)
+ControlSource::ControlSource(ControlLoop& loop, std::function<void()> call)
     : loop_(loop)
     , call_(std::move(call))
-    , source_(pw_loop_add_event(
-          loop.native(), [](void* data, std::uint64_t) { run(data); }, &call_))
 {}
 
-ControlEvent::~ControlEvent()
+ControlSource::~ControlSource()
 {
     pw_loop_destroy_source(loop_.native(), source_);
+}
+
+ControlEvent::ControlEvent(ControlLoop& loop, std::function<void()> call)
+    : ControlSource(loop, std::move(call))
+{
+    source_ = pw_loop_add_event(
+        loop.native(), [](void* data, std::uint64_t) { run(data); }, &call_);
 }
 
 void ControlEvent::signal() noexcept
@@ -71,20 +77,16 @@ void ControlEvent::signal() noexcept
 }
 
 ControlTimer::ControlTimer(ControlLoop& loop, std::function<void()> call)
-    : loop_(loop)
-    , call_(std::move(call))
-    , source_(pw_loop_add_timer(
-          loop.native(), [](void* data, std::uint64_t) { run(data); }, &call_))
-{}
-
-ControlTimer::~ControlTimer()
+    : ControlSource(loop, std::move(call))
 {
-    pw_loop_destroy_source(loop_.native(), source_);
+    source_ = pw_loop_add_timer(
+        loop.native(), [](void* data, std::uint64_t) { run(data); }, &call_);
 }
 
 void ControlTimer::once(double delay)
 {
-    schedule(delay, 0.0);
+    constexpr double kAtOnce = 1e-6; // PipeWire switches a timer that is set to 0 off
+    schedule(std::max(delay, kAtOnce), 0.0);
 }
 
 void ControlTimer::every(double interval)
@@ -105,16 +107,11 @@ void ControlTimer::schedule(double delay, double interval)
 }
 
 ControlWatch::ControlWatch(ControlLoop& loop, int descriptor, std::function<void()> call)
-    : loop_(loop)
-    , call_(std::move(call))
-    , source_(pw_loop_add_io(
-          loop.native(), descriptor, SPA_IO_IN, true, [](void* data, int, std::uint32_t) { run(data); },
-          &call_))
-{}
-
-ControlWatch::~ControlWatch()
+    : ControlSource(loop, std::move(call))
 {
-    pw_loop_destroy_source(loop_.native(), source_);
+    source_ = pw_loop_add_io(
+        loop.native(), descriptor, SPA_IO_IN, true, [](void* data, int, std::uint32_t) { run(data); },
+        &call_);
 }
 
 } // namespace tocca::platform::linux

@@ -31,32 +31,34 @@ private:
     pw_thread_loop* loop_;
 };
 
-/// A call that any thread may ask the control thread for.
-///
-/// Several requests before it runs are one.
-class ControlEvent {
+/// Something that calls on the control thread, for as long as it lives.
+class ControlSource {
+public:
+    ControlSource(const ControlSource&) = delete;
+    ControlSource& operator=(const ControlSource&) = delete;
+
+protected:
+    ControlSource(ControlLoop& loop, std::function<void()> call);
+    ~ControlSource();
+
+    ControlLoop& loop_;
+    std::function<void()> call_;
+    spa_source* source_ = nullptr; // made by the heirs
+};
+
+/// A call that any thread may ask the control thread for. Several requests before it runs are one.
+class ControlEvent : public ControlSource {
 public:
     ControlEvent(ControlLoop& loop, std::function<void()> call);
-    ~ControlEvent();
-    ControlEvent(const ControlEvent&) = delete;
-    ControlEvent& operator=(const ControlEvent&) = delete;
 
     /// Asks for the call. Threads: any. Never waits.
     void signal() noexcept;
-
-private:
-    ControlLoop& loop_;
-    std::function<void()> call_;
-    spa_source* source_;
 };
 
 /// A timer on the control thread. Units: seconds.
-class ControlTimer {
+class ControlTimer : public ControlSource {
 public:
     ControlTimer(ControlLoop& loop, std::function<void()> call);
-    ~ControlTimer();
-    ControlTimer(const ControlTimer&) = delete;
-    ControlTimer& operator=(const ControlTimer&) = delete;
 
     /// Calls once, `delay` from now, instead of whatever was scheduled before.
     void once(double delay);
@@ -68,24 +70,12 @@ public:
 
 private:
     void schedule(double delay, double interval);
-
-    ControlLoop& loop_;
-    std::function<void()> call_;
-    spa_source* source_;
 };
 
 /// Calls on the control thread whenever a file descriptor is readable. Lifetime: closes the descriptor.
-class ControlWatch {
+class ControlWatch : public ControlSource {
 public:
     ControlWatch(ControlLoop& loop, int descriptor, std::function<void()> call);
-    ~ControlWatch();
-    ControlWatch(const ControlWatch&) = delete;
-    ControlWatch& operator=(const ControlWatch&) = delete;
-
-private:
-    ControlLoop& loop_;
-    std::function<void()> call_;
-    spa_source* source_;
 };
 
 } // namespace tocca::platform::linux

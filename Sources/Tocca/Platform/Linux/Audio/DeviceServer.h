@@ -1,18 +1,18 @@
 #pragma once
 
 #include "Platform/AudioDevices.h"
+#include "Platform/Linux/Audio/ServerLink.h"
 
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace tocca::platform::linux {
 
-/// The devices of one kind of sound server, told again whenever they change.
-///
-/// It connects by itself, and again after a loss: at a sign of the server, else every few seconds.
-/// Threads: control. The observer is called there, never from inside `open`.
-class DeviceServer {
+/// The devices of one kind of sound server, told to an observer whenever they change.
+/// Threads: control. The observer is called there, never from inside the constructor.
+class DeviceServer : public ServerLink {
 public:
     struct Devices {
         std::vector<AudioDevice> inputs;
@@ -22,19 +22,13 @@ public:
     /// Hears nothing when there is no server.
     using Observer = std::function<void(const std::optional<Devices>&)>;
 
-    virtual ~DeviceServer() = default;
+protected:
+    DeviceServer(ControlLoop& loop, Observer observer)
+        : ServerLink(loop)
+        , observer_(std::move(observer))
+    {}
 
-    /// Begins to look for the server; called once.
-    virtual void open() = 0;
-
-    /// Looks for the server soon instead of at the next regular attempt, as there is a sign of it.
-    virtual void lookNow() = 0;
+    const Observer observer_;
 };
-
-namespace timing {
-inline constexpr double kAtOnce = 1e-6; ///< a timer set to 0 is off
-inline constexpr double kSoon = 0.25;   ///< a server that has just made its socket may not listen yet
-inline constexpr double kRetry = 5.0;
-} // namespace timing
 
 } // namespace tocca::platform::linux

@@ -9,7 +9,7 @@ LinuxAudioDevices::LinuxAudioDevices(LinuxAudioDevicesOptions options)
     : options_(options)
     , begin_(loop_, [this] { begin(); })
 {
-    begin_.once(timing::kAtOnce);
+    begin_.once(0.0);
     loop_.start();
 }
 
@@ -47,7 +47,6 @@ void LinuxAudioDevices::begin()
         ofPipeWire_ = devices;
         settle();
     });
-    pipeWire_->open();
 }
 
 void LinuxAudioDevices::settle()
@@ -76,7 +75,6 @@ void LinuxAudioDevices::openPulse()
         ofPulse_ = devices;
         settle();
     });
-    pulse_->open();
 }
 
 } // namespace tocca::platform::linux

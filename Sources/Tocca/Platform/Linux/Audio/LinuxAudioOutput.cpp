@@ -11,7 +11,6 @@ namespace tocca::platform::linux {
 
 namespace {
 
-constexpr double kAtOnce = 1e-6; // a timer set to 0 is off
 constexpr double kInspectionInterval = 0.25;
 
 /// How long a server may be restarting, or its session manager finding the devices, before others are tried.
@@ -53,7 +52,7 @@ LinuxAudioOutput::~LinuxAudioOutput()
 void LinuxAudioOutput::start(player::RenderSource& source)
 {
     source_ = &source;
-    begin_.once(kAtOnce);
+    begin_.once(0.0);
     loop_.start();
 }
 
@@ -93,7 +92,6 @@ void LinuxAudioOutput::begin()
         pipeWireAvailability_ = availability;
         choose();
     });
-    pipeWire_->open();
 }
 
 void LinuxAudioOutput::choose()
@@ -158,7 +156,6 @@ void LinuxAudioOutput::openPulse()
         choose();
     });
     pulse_->setAwake(gate_.isOpen());
-    pulse_->open();
 }
 
 void LinuxAudioOutput::complain()

@@ -32,14 +32,4 @@ void OutputMeter::countDropOut() noexcept
     missedCycles_.fetch_add(1, std::memory_order_relaxed);
 }
 
-void OutputMeter::restart() noexcept
-{
-    restarts_.store(true, std::memory_order_relaxed);
-}
-
-void OutputMeter::setSampleRate(double sampleRate) noexcept
-{
-    sampleRate_.store(sampleRate, std::memory_order_relaxed);
-}
-
 } // namespace tocca::platform::linux

@@ -27,9 +27,12 @@ public:
     void countDropOut() noexcept REALTIME;
 
     /// Makes the next cycle the first of a new series: what lies before it was not missed.
-    void restart() noexcept;
+    void restart() noexcept { restarts_.store(true, std::memory_order_relaxed); }
 
-    void setSampleRate(double sampleRate) noexcept;
+    void setSampleRate(double sampleRate) noexcept
+    {
+        sampleRate_.store(sampleRate, std::memory_order_relaxed);
+    }
 
     [[nodiscard]] double sampleRate() const noexcept { return sampleRate_.load(std::memory_order_relaxed); }
 

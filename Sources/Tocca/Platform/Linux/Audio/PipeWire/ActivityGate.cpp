@@ -41,9 +41,4 @@ void ActivityGate::open(double now)
     isOpen_.store(true);
 }
 
-bool ActivityGate::isOpen() const noexcept
-{
-    return isOpen_.load();
-}
-
 } // namespace tocca::platform::linux

@@ -24,7 +24,7 @@ public:
     void open(double now);
 
     /// Threads: any.
-    [[nodiscard]] bool isOpen() const noexcept;
+    [[nodiscard]] bool isOpen() const noexcept { return isOpen_.load(); }
 
 private:
     const double idleSeconds_;

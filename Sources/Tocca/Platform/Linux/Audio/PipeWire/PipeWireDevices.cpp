@@ -91,13 +91,13 @@ private:
 };
 
 PipeWireDevices::PipeWireDevices(ControlLoop& loop, Observer observer)
-    : observer_(std::move(observer))
-    , retry_(loop, [this] { connect(); })
+    : DeviceServer(loop, std::move(observer))
     , connection_([&loop] { return pw_context_new(loop.native(), nullptr, 0); },
                   {.lost = [this] { lose(); },
                    .enumerated =
                        [this] {
                            isEnumerated_ = true;
+                           resetDelay();
                            tell();
                        },
                    .appeared = [this](std::uint32_t id, const char* type,
@@ -107,15 +107,10 @@ PipeWireDevices::PipeWireDevices(ControlLoop& loop, Observer observer)
 
 PipeWireDevices::~PipeWireDevices() = default;
 
-void PipeWireDevices::open()
-{
-    retry_.once(timing::kAtOnce);
-}
-
 void PipeWireDevices::lookNow()
 {
     if (connection_.core() == nullptr) {
-        retry_.once(timing::kSoon);
+        retrySoon();
     }
 }
 
@@ -126,16 +121,15 @@ void PipeWireDevices::connect()
     graph_.clear();
     if (!connection_.connect(pw_properties_new(PW_KEY_APP_NAME, "Tocca", nullptr))) {
         observer_(std::nullopt);
-        retry_.once(timing::kRetry);
+        retryLater();
     }
 }
 
 void PipeWireDevices::lose()
 {
-    // The connection cannot be taken down from inside its own events, and the server needs a moment to come back.
     isEnumerated_ = false;
     observer_(std::nullopt);
-    retry_.once(timing::kSoon);
+    retrySoon(); // which takes the connection down; its own events may not
 }
 
 void PipeWireDevices::appear(std::uint32_t id, const char* type, const spa_dict* properties)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/DeviceServer.h"
 #include "Platform/Linux/Audio/PipeWire/CaptureGraph.h"
 #include "Platform/Linux/Audio/PipeWire/PipeWireConnection.h"
@@ -24,21 +23,18 @@ public:
     PipeWireDevices(ControlLoop& loop, Observer observer);
     ~PipeWireDevices() override;
 
-    void open() override;
     void lookNow() override;
 
 private:
     class Recorder;
 
-    void connect();
+    void connect() override;
     void lose();
     void appear(std::uint32_t id, const char* type, const spa_dict* properties);
     void vanish(std::uint32_t id);
     void describe(std::uint32_t id, const pw_node_info& info);
     void tell();
 
-    const Observer observer_;
-    ControlTimer retry_;
     PipeWireConnection connection_;
     std::map<std::uint32_t, std::unique_ptr<Recorder>> recorders_;
     CaptureGraph graph_;

@@ -1,11 +1,8 @@
 #include "Platform/Linux/Audio/PipeWire/PipeWireOutput.h"
 
-#include "Platform/Linux/System/LinuxClock.h"
-
 #include <pipewire/pipewire.h>
 #include <pthread.h>
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdio>
@@ -18,9 +15,6 @@ namespace {
 
 constexpr int kSmallestQuantum = 64;
 constexpr int kLargestQuantum = 1024;
-constexpr double kAtOnce = 1e-6; // a timer set to 0 is off
-constexpr double kFirstRetry = 0.25;
-constexpr double kLastRetry = 5.0;
 
 /// Before 1.3.81 only the configuration of this name gives a client's data thread real-time scheduling.
 const char* configurationName()
@@ -66,17 +60,13 @@ bool isSink(const char* type, const spa_dict* properties)
 
 PipeWireOutput::PipeWireOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter,
                                Observer observer)
-    : source_(source)
-    , meter_(meter)
-    , observer_(std::move(observer))
-    , retry_(loop, [this] { connect(); })
-    , governor_(kSmallestQuantum, kLargestQuantum)
+    : ServerOutput(loop, source, meter, std::move(observer), kSmallestQuantum, kLargestQuantum)
     , connection_([&loop] { return makeContext(loop.native()); },
                   {.lost = [this] { lose(); },
                    .enumerated =
                        [this] {
                            isEnumerated_ = true;
-                           retryDelay_ = kFirstRetry;
+                           resetDelay();
                            settle();
                        },
                    .appeared =
@@ -92,35 +82,25 @@ PipeWireOutput::PipeWireOutput(ControlLoop& loop, player::RenderSource& source, 
                                settle();
                            }
                        }})
-    , retryDelay_(kFirstRetry)
 {}
 
 PipeWireOutput::~PipeWireOutput() = default;
 
-void PipeWireOutput::open()
-{
-    retry_.once(kAtOnce);
-}
-
 void PipeWireOutput::lookNow()
 {
     if (connection_.core() == nullptr) {
-        retryDelay_ = kFirstRetry;
-        retry_.once(retryDelay_);
+        retrySoon();
     }
 }
 
 void PipeWireOutput::setAwake(bool isAwake)
 {
     isAwake_ = isAwake;
-    const double now = monotonicSeconds();
-    progress_.restart(now);
+    disturb();
     if (!stream_) {
         return;
     }
-    if (isAwake) {
-        governor_.disturb(now);
-    } else if (governor_.rest(now)) {
+    if (!isAwake && governor_.rest(monotonicSeconds())) {
         stream_->requestQuantum(governor_.quantum());
     }
     stream_->setAwake(isAwake);
@@ -153,17 +133,14 @@ void PipeWireOutput::connect()
     if (!connection_.connect(
             pw_properties_new(PW_KEY_APP_NAME, "Tocca", PW_KEY_APP_ICON_NAME, "tocca", nullptr))) {
         report(Availability::Absent);
-        retryDelay_ = std::min(retryDelay_ * 2.0, kLastRetry);
-        retry_.once(retryDelay_);
+        retryLater();
     }
 }
 
 void PipeWireOutput::lose()
 {
-    // The connection cannot be taken down from inside its own events, and the server needs a moment to come back.
     isLost_ = true;
-    retryDelay_ = kFirstRetry;
-    retry_.once(retryDelay_);
+    retrySoon(); // which takes the connection down; its own events may not
 }
 
 void PipeWireOutput::settle()
@@ -184,18 +161,9 @@ void PipeWireOutput::openStream()
 {
     stream_.reset();
     stream_ = std::make_unique<PipeWireStream>(connection_.core(), source_, meter_, [this] { lose(); });
-    const double now = monotonicSeconds();
-    progress_.restart(now);
-    governor_.disturb(now);
+    disturb();
     if (!stream_->connect(governor_.quantum(), isAwake_)) {
         lose();
-    }
-}
-
-void PipeWireOutput::report(Availability availability)
-{
-    if (std::exchange(availability_, availability) != availability) {
-        observer_(availability);
     }
 }
 

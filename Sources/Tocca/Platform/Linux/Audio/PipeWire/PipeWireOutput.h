@@ -1,11 +1,7 @@
 #pragma once
 
-#include "Platform/Linux/Audio/ControlLoop.h"
-#include "Platform/Linux/Audio/OutputMeter.h"
 #include "Platform/Linux/Audio/PipeWire/PipeWireConnection.h"
 #include "Platform/Linux/Audio/PipeWire/PipeWireStream.h"
-#include "Platform/Linux/Audio/PipeWire/QuantumGovernor.h"
-#include "Platform/Linux/Audio/ProgressWatch.h"
 #include "Platform/Linux/Audio/ServerOutput.h"
 
 #include <cstdint>
@@ -23,33 +19,22 @@ public:
     PipeWireOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter, Observer observer);
     ~PipeWireOutput() override;
 
-    void open() override;
     void lookNow() override;
     void setAwake(bool isAwake) override;
     void inspect(double now) override;
 
 private:
-    void connect();
+    void connect() override;
     void lose();
     void settle();
     void openStream();
-    void report(Availability availability);
 
-    player::RenderSource& source_;
-    OutputMeter& meter_;
-    const Observer observer_;
-    ControlTimer retry_;
-    QuantumGovernor governor_;
-    ProgressWatch progress_;
     PipeWireConnection connection_;
     std::unique_ptr<PipeWireStream> stream_;
     std::set<std::uint32_t> sinks_;
-    Availability availability_ = Availability::Unknown;
     bool isEnumerated_ = false; // the registry has shown what was there at first
     bool isLost_ = false;       // waiting to be taken down
-    bool isAwake_ = true;
-    double retryDelay_;
-    double triedRate_ = 0.0; // the last graph rate for which the stream was made again
+    double triedRate_ = 0.0;    // the last graph rate for which the stream was made again
 };
 
 } // namespace tocca::platform::linux

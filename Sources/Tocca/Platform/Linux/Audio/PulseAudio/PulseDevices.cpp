@@ -25,9 +25,8 @@ bool isMeter(const pa_source_output_info& recording)
 } // namespace
 
 PulseDevices::PulseDevices(ControlLoop& loop, Observer observer)
-    : observer_(std::move(observer))
+    : DeviceServer(loop, std::move(observer))
     , news_(loop, [this] { settle(); })
-    , retry_(loop, [this] { connect(); })
     , loop_("tocca-devices")
 {}
 
@@ -36,15 +35,10 @@ PulseDevices::~PulseDevices()
     disconnect();
 }
 
-void PulseDevices::open()
-{
-    retry_.once(timing::kAtOnce);
-}
-
 void PulseDevices::lookNow()
 {
     if (context_ == nullptr) {
-        retry_.once(timing::kSoon);
+        retrySoon();
     }
 }
 
@@ -76,7 +70,9 @@ void PulseDevices::settle()
     }
     if (!found) {
         disconnect();
-        retry_.once(timing::kRetry);
+        retryLater();
+    } else {
+        resetDelay();
     }
     observer_(found);
 }

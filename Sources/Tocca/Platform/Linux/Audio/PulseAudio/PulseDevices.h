@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Platform/Linux/Audio/ControlLoop.h"
 #include "Platform/Linux/Audio/DeviceServer.h"
 #include "Platform/Linux/Audio/PulseAudio/PulseLoop.h"
 
@@ -26,11 +25,10 @@ public:
     PulseDevices(ControlLoop& loop, Observer observer);
     ~PulseDevices() override;
 
-    void open() override;
     void lookNow() override;
 
 private:
-    void connect();
+    void connect() override;
     void disconnect();
     void settle();
 
@@ -42,9 +40,7 @@ private:
     void conclude();
     void publish(std::optional<Devices> devices);
 
-    const Observer observer_;
     ControlEvent news_;
-    ControlTimer retry_;
     pa_context* context_ = nullptr;
 
     std::map<std::uint32_t, std::string> sources_; // client library's thread, as are the next three

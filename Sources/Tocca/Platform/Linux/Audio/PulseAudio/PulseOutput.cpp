@@ -1,7 +1,5 @@
 #include "Platform/Linux/Audio/PulseAudio/PulseOutput.h"
 
-#include "Platform/Linux/System/LinuxClock.h"
-
 #include <pulse/pulseaudio.h>
 
 #include <algorithm>
@@ -14,9 +12,6 @@ namespace {
 constexpr int kSmallestBuffer = 512;
 constexpr int kLargestBuffer = 4096;
 constexpr std::uint32_t kFrameBytes = 2 * sizeof(float);
-constexpr double kAtOnce = 1e-6; // a timer set to 0 is off
-constexpr double kFirstRetry = 0.25;
-constexpr double kLastRetry = 5.0;
 constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
 
 pa_buffer_attr bufferOf(int frames)
@@ -41,13 +36,8 @@ pa_proplist* applicationProperties()
 
 PulseOutput::PulseOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter,
                          Observer observer)
-    : source_(source)
-    , meter_(meter)
-    , observer_(std::move(observer))
+    : ServerOutput(loop, source, meter, std::move(observer), kSmallestBuffer, kLargestBuffer)
     , news_(loop, [this] { settle(); })
-    , retry_(loop, [this] { connect(); })
-    , governor_(kSmallestBuffer, kLargestBuffer)
-    , retryDelay_(kFirstRetry)
     , loop_("tocca-pulse")
 {}
 
@@ -56,27 +46,17 @@ PulseOutput::~PulseOutput()
     disconnect();
 }
 
-void PulseOutput::open()
-{
-    retry_.once(kAtOnce);
-}
-
 void PulseOutput::lookNow()
 {
-    if (availability_ == Availability::Absent) {
-        retryDelay_ = kFirstRetry;
-        retry_.once(retryDelay_);
+    if (availability() == Availability::Absent) {
+        retrySoon();
     }
 }
 
 void PulseOutput::setAwake(bool isAwake)
 {
     isAwake_ = isAwake;
-    const double now = monotonicSeconds();
-    progress_.restart(now);
-    if (isAwake) {
-        governor_.disturb(now);
-    }
+    disturb();
     const PulseLoop::Lock lock(loop_);
     if (stream_ != nullptr && pa_stream_get_state(stream_) == PA_STREAM_READY) {
         forget(pa_stream_cork(stream_, isAwake ? 0 : 1, nullptr, nullptr));
@@ -142,8 +122,7 @@ void PulseOutput::disconnect()
 void PulseOutput::lose()
 {
     disconnect();
-    retryDelay_ = kFirstRetry;
-    retry_.once(retryDelay_);
+    retrySoon();
 }
 
 void PulseOutput::settle()
@@ -152,11 +131,10 @@ void PulseOutput::settle()
     case Availability::Unknown:
         break;
     case Availability::Absent: {
-        const bool wasThere = availability_ == Availability::Ready || availability_ == Availability::NoSink;
+        const bool wasThere = availability() == Availability::Ready || availability() == Availability::NoSink;
         disconnect();
         report(Availability::Absent);
-        retryDelay_ = wasThere ? kFirstRetry : std::min(retryDelay_ * 2.0, kLastRetry);
-        retry_.once(retryDelay_);
+        wasThere ? retrySoon() : retryLater();
         break;
     }
     case Availability::NoSink:
@@ -220,9 +198,7 @@ void PulseOutput::openStream()
     if (!isAwake_) {
         flags |= PA_STREAM_START_CORKED;
     }
-    const double now = monotonicSeconds();
-    progress_.restart(now);
-    governor_.disturb(now);
+    disturb();
     const pa_buffer_attr buffer = bufferOf(governor_.quantum());
     pa_stream_connect_playback(stream_, nullptr, &buffer, static_cast<pa_stream_flags_t>(flags), nullptr,
                                nullptr);
@@ -254,13 +230,6 @@ void PulseOutput::write(std::size_t bytes) noexcept
         meter_.render(source_, {static_cast<float*>(data), frames * 2}, cycle);
         pa_stream_write(stream_, data, frames * kFrameBytes, nullptr, 0, PA_SEEK_RELATIVE);
         bytes -= frames * kFrameBytes;
-    }
-}
-
-void PulseOutput::report(Availability availability)
-{
-    if (std::exchange(availability_, availability) != availability) {
-        observer_(availability);
     }
 }
 

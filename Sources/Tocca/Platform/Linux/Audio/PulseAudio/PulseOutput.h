@@ -1,13 +1,8 @@
 #pragma once
 
 #include "Platform/Linux/Audio/BlockClock.h"
-#include "Platform/Linux/Audio/ControlLoop.h"
-#include "Platform/Linux/Audio/OutputMeter.h"
-#include "Platform/Linux/Audio/PipeWire/QuantumGovernor.h"
-#include "Platform/Linux/Audio/ProgressWatch.h"
 #include "Platform/Linux/Audio/PulseAudio/PulseLoop.h"
 #include "Platform/Linux/Audio/ServerOutput.h"
-#include "Player/RenderSource.h"
 
 #include <atomic>
 #include <cstddef>
@@ -27,13 +22,12 @@ public:
     PulseOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter, Observer observer);
     ~PulseOutput() override;
 
-    void open() override;
     void lookNow() override;
     void setAwake(bool isAwake) override;
     void inspect(double now) override;
 
 private:
-    void connect();
+    void connect() override;
     void disconnect();
     void lose();
     void settle();
@@ -42,23 +36,13 @@ private:
     void countSinks();
     void streamChanged();
     void write(std::size_t bytes) noexcept;
-    void report(Availability availability);
 
-    player::RenderSource& source_;
-    OutputMeter& meter_;
-    const Observer observer_;
     ControlEvent news_;
-    ControlTimer retry_;
-    QuantumGovernor governor_;
     BlockClock clock_; // client library's thread
-    ProgressWatch progress_;
     pa_context* context_ = nullptr;
     pa_stream* stream_ = nullptr;
     int countedSinks_ = 0;                                    // client library's thread
     std::atomic<Availability> server_{Availability::Unknown}; // client library's thread -> control
-    Availability availability_ = Availability::Unknown;
-    bool isAwake_ = true;
-    double retryDelay_;
     PulseLoop loop_; // the last, as its thread uses what stands above
 };
 
