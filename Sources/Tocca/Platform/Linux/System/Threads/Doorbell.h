@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Support/Realtime.h"
-
 #include <atomic>
 #include <cstdint>
 
@@ -13,7 +11,12 @@ namespace tocca::platform::linux {
 /// Real-time: `ring` never allocates, locks or waits.
 class Doorbell {
 public:
-    void ring() noexcept;
+    void ring() noexcept
+    {
+        if (state_.exchange(kAwake, std::memory_order_acq_rel) == kAsleep) {
+            state_.notify_one();
+        }
+    }
 
     /// Sleeps until the next ring, unless `hasWork` finds that there is something to do already.
     template <class HasWork>
@@ -23,7 +26,7 @@ public:
         // sees that this thread is about to sleep.
         state_.exchange(kAsleep, std::memory_order_acq_rel);
         if (!hasWork()) {
-            waitWhileAsleep();
+            state_.wait(kAsleep, std::memory_order_acquire);
         }
         state_.exchange(kAwake, std::memory_order_acq_rel);
     }
@@ -32,9 +35,7 @@ private:
     static constexpr std::uint32_t kAwake = 0;
     static constexpr std::uint32_t kAsleep = 1;
 
-    void waitWhileAsleep() noexcept;
-
-    std::atomic<std::uint32_t> state_{kAwake}; // both
+    std::atomic<std::uint32_t> state_{kAwake}; // both; of the size on which the kernel waits
 };
 
 static_assert(std::atomic<std::uint32_t>::is_always_lock_free);
