@@ -27,6 +27,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/Threads/WakeDescriptor
     HEADERS
         Platform/Linux/System/ApplicationId.h
+        Platform/Linux/System/Files/SystemCalls.h
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxHaptics.h
         Platform/Linux/System/LowerCase.h

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <unistd.h>
+
 namespace tocca::platform::linux {
 
 /// Owns a file descriptor and closes it. Threads: any, one at a time.
@@ -27,7 +29,12 @@ public:
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
 
-    ~FileDescriptor();
+    ~FileDescriptor()
+    {
+        if (descriptor_ >= 0) {
+            ::close(descriptor_);
+        }
+    }
 
     [[nodiscard]] int get() const noexcept { return descriptor_; }
 

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/System/FileDescriptor.h"
 #include "Platform/Linux/System/Files/FileError.h"
+#include "Platform/Linux/System/Files/SystemCalls.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -20,35 +21,11 @@ constexpr std::size_t kChunk = std::size_t{128} * 1024;
 constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO; // without set-user-ID and its like
 constexpr mode_t kOwnerMay = S_IRUSR | S_IWUSR;
 
-/// Repeats a system call that a signal has interrupted.
-template <class Call>
-auto retried(Call call)
-{
-    auto result = call();
-    while (result < 0 && errno == EINTR) {
-        result = call();
-    }
-    return result;
-}
-
-int writeAll(int descriptor, const std::byte* bytes, std::size_t length)
-{
-    while (length > 0) {
-        const ssize_t count = retried([=] { return ::write(descriptor, bytes, length); });
-        if (count < 0) {
-            return errno;
-        }
-        bytes += count;
-        length -= static_cast<std::size_t>(count);
-    }
-    return 0;
-}
-
 /// Copies until the end of `from`; an error names the side it arose on.
 Outcome copyBytes(const FileDescriptor& from, const std::filesystem::path& fromPath, const FileDescriptor& to,
                   const std::filesystem::path& toPath)
 {
-    std::vector<std::byte> chunk(kChunk);
+    std::vector<char> chunk(kChunk);
     for (;;) {
         const ssize_t count = retried([&] { return ::read(from.get(), chunk.data(), chunk.size()); });
         if (count < 0) {
@@ -57,9 +34,8 @@ Outcome copyBytes(const FileDescriptor& from, const std::filesystem::path& fromP
         if (count == 0) {
             break;
         }
-        if (const int number = writeAll(to.get(), chunk.data(), static_cast<std::size_t>(count));
-            number != 0) {
-            return fileError(toPath, number);
+        if (!writeAll(to.get(), {chunk.data(), static_cast<std::size_t>(count)})) {
+            return fileError(toPath, errno);
         }
     }
     if (retried([&] { return ::fsync(to.get()); }) != 0) {

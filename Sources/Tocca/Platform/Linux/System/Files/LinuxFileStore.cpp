@@ -44,17 +44,6 @@ FileKind kindOf(mode_t mode)
     }
 }
 
-Outcome copyLink(const fs::path& from, const fs::path& to)
-{
-    std::error_code error;
-    const fs::path target = fs::read_symlink(from, error);
-    if (error) {
-        return fileError(from, error.message());
-    }
-    fs::create_symlink(target, to, error);
-    return outcome(to, error);
-}
-
 Outcome copyDirectory(const fs::path& to, mode_t mode)
 {
     constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
@@ -121,8 +110,11 @@ Outcome LinuxFileStore::copyEntry(const fs::path& from, const fs::path& to)
     switch (kindOf(status.st_mode)) {
     case FileKind::Directory:
         return copyDirectory(to, status.st_mode);
-    case FileKind::Link:
-        return copyLink(from, to);
+    case FileKind::Link: {
+        std::error_code error;
+        fs::copy_symlink(from, to, error);
+        return outcome(to, error);
+    }
     default:
         return copyRegularFile(from, to);
     }

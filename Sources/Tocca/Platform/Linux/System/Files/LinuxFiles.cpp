@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/System/FileDescriptor.h"
 #include "Platform/Linux/System/Files/FileError.h"
+#include "Platform/Linux/System/Files/SystemCalls.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -22,12 +23,9 @@ constexpr std::size_t kGrowth = 65536;
 
 FileDescriptor openWithoutWaiting(const std::filesystem::path& path)
 {
-    int descriptor = -1;
-    do {
-        // Non-blocking, because opening a FIFO would otherwise wait for somebody to write to it.
-        descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-    } while (descriptor < 0 && errno == EINTR);
-    return FileDescriptor(descriptor);
+    // Non-blocking, because opening a FIFO would otherwise wait for somebody to write to it.
+    constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+    return FileDescriptor(retried([&] { return ::open(path.c_str(), kFlags); }));
 }
 
 /// Reads until the end or until one byte more than `limit`, whatever size the file claimed to have: it may be growing.
@@ -40,10 +38,8 @@ int readUpTo(int descriptor, std::size_t expected, std::size_t limit, std::vecto
         if (length == bytes.size()) {
             bytes.resize(std::min(length + std::max(length, kGrowth), limit + 1));
         }
-        const ssize_t count = ::read(descriptor, bytes.data() + length, bytes.size() - length);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t count =
+            retried([&] { return ::read(descriptor, bytes.data() + length, bytes.size() - length); });
         if (count < 0) {
             return errno;
         }
