@@ -20,16 +20,12 @@ TEST(DesktopEntry, ReadsItsMainGroupAlone)
                              "Comment=one\\ntwo\\sthree\\\\four\\\n"
                              "nonsense\n"
                              "Hidden=true\n"
-                             "NoDisplay=false\n"
-                             "Terminal=yes\n"
                              "[Desktop Action new]\n"
                              "Icon=other");
     EXPECT_EQ(entry.text("Name"), "Passwords and Keys");
     EXPECT_EQ(entry.text("Comment"), "one\ntwo three\\four\\");
     EXPECT_EQ(entry.text("Icon"), std::nullopt);
-    EXPECT_TRUE(entry.isTrue("Hidden"));
-    EXPECT_TRUE(entry.isFalse("NoDisplay"));
-    EXPECT_FALSE(entry.isTrue("Terminal") || entry.isFalse("Terminal") || entry.isFalse("Missing"));
+    EXPECT_EQ(entry.text("Hidden"), "true");
     EXPECT_EQ(DesktopEntry("").text("Name"), std::nullopt);
 }
 

@@ -108,7 +108,7 @@ TEST_F(LoginItemTest, HidesTheSystemsEntryInsteadOfLettingItBack)
     EXPECT_EQ(item.status(), LoginItemStatus::Enabled);
     ASSERT_TRUE(item.unregisterItem());
     EXPECT_EQ(item.status(), LoginItemStatus::NotRegistered);
-    EXPECT_TRUE(DesktopEntry(read(entry)).isTrue("Hidden"));
+    EXPECT_EQ(DesktopEntry(read(entry)).text("Hidden"), "true");
     ASSERT_TRUE(item.registerItem());
     EXPECT_EQ(item.status(), LoginItemStatus::Enabled);
     EXPECT_EQ(read(system / entry.filename()), "[Desktop Entry]\nType=Application\nExec=tocca\n");

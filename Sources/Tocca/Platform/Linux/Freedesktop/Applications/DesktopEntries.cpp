@@ -4,7 +4,6 @@
 #include "Platform/Linux/System/LowerCase.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <string_view>
 #include <system_error>
 
@@ -15,7 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kExtension = ".desktop";
-constexpr std::size_t kLargestEntry = std::size_t{1} << 20U;
 
 fs::file_time_type changeOf(const fs::path& directory)
 {
@@ -55,7 +53,7 @@ std::optional<InstalledApplication> DesktopEntries::byWindowClass(const std::str
 
 std::optional<std::string> DesktopEntries::nameOf(const InstalledApplication& application) const
 {
-    const auto entry = read(application.path);
+    const auto entry = readDesktopEntry(application.path);
     return entry ? entry->localizedText("Name", locales_) : std::nullopt;
 }
 
@@ -107,21 +105,11 @@ void DesktopEntries::add(const fs::path& path, const std::string& id)
         return; // one of an earlier directory hides it
     }
     lastComponents_.emplace(lower.substr(lower.rfind('.') + 1), application);
-    if (const auto entry = read(path)) {
+    if (const auto entry = readDesktopEntry(path)) {
         if (const auto windowClass = entry->text("StartupWMClass"); windowClass && !windowClass->empty()) {
             windowClasses_.emplace(lowerCased(*windowClass), application);
         }
     }
-}
-
-std::optional<DesktopEntry> DesktopEntries::read(const fs::path& path) const
-{
-    const auto bytes = files_.read(path, kLargestEntry);
-    if (!bytes) {
-        return std::nullopt;
-    }
-    const auto& content = *bytes.value();
-    return DesktopEntry({reinterpret_cast<const char*>(content.data()), content.size()});
 }
 
 } // namespace tocca::platform::linux

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntry.h"
-#include "Platform/Linux/System/Files/LinuxFiles.h"
 
 #include <filesystem>
 #include <map>
@@ -45,11 +44,9 @@ private:
     void refresh();
     void readDirectory(const std::filesystem::path& root);
     void add(const std::filesystem::path& path, const std::string& id);
-    [[nodiscard]] std::optional<DesktopEntry> read(const std::filesystem::path& path) const;
 
     const std::vector<std::filesystem::path> directories_;
     const std::vector<std::string> locales_;
-    const LinuxFiles files_;
     std::vector<std::pair<std::filesystem::path, std::filesystem::file_time_type>> seen_;
     Index ids_;
     Index lastComponents_;

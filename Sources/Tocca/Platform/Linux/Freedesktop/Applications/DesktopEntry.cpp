@@ -1,5 +1,7 @@
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntry.h"
 
+#include "Platform/Linux/System/Files/LinuxFiles.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
@@ -86,14 +88,15 @@ std::optional<std::string> DesktopEntry::localizedText(const std::string& key,
     return text(key);
 }
 
-bool DesktopEntry::isTrue(const std::string& key) const
+std::optional<DesktopEntry> readDesktopEntry(const std::filesystem::path& path)
 {
-    return text(key) == "true";
-}
-
-bool DesktopEntry::isFalse(const std::string& key) const
-{
-    return text(key) == "false";
+    constexpr std::size_t kLargest = std::size_t{1} << 20U;
+    const auto bytes = LinuxFiles().read(path, kLargest);
+    if (!bytes) {
+        return std::nullopt;
+    }
+    const auto& content = *bytes.value();
+    return DesktopEntry({reinterpret_cast<const char*>(content.data()), content.size()});
 }
 
 std::vector<std::string> localeVariants(std::string_view locale)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -20,14 +21,14 @@ public:
     [[nodiscard]] std::optional<std::string> localizedText(const std::string& key,
                                                            const std::vector<std::string>& locales) const;
 
-    [[nodiscard]] bool isTrue(const std::string& key) const;
-    [[nodiscard]] bool isFalse(const std::string& key) const;
-
 private:
     std::map<std::string, std::string, std::less<>> values_;
 };
 
-/// What a locale's texts are looked for under, best first: "de_AT@euro" gives itself, "de_AT", "de@euro" and "de".
+/// The entry in a file; nothing when it cannot be read.
+[[nodiscard]] std::optional<DesktopEntry> readDesktopEntry(const std::filesystem::path& path);
+
+/// The names under which a locale's texts are looked for, best first: "de_AT@euro" gives itself, "de_AT", "de@euro" and "de".
 [[nodiscard]] std::vector<std::string> localeVariants(std::string_view locale);
 
 /// The same for the messages of this process's user.

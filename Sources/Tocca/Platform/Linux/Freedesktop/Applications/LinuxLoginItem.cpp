@@ -5,11 +5,9 @@
 #include "Platform/Linux/System/Files/FileError.h"
 #include "Platform/Linux/System/Files/FileReplacement.h"
 #include "Platform/Linux/System/Files/LinuxDirectories.h"
-#include "Platform/Linux/System/Files/LinuxFiles.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstddef>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -23,7 +21,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kLargestEntry = std::size_t{1} << 20U;
 constexpr const char* kHiddenEntry = "[Desktop Entry]\nType=Application\nName=Tocca\nHidden=true\n";
 
 fs::path thisProgram()
@@ -61,18 +58,18 @@ LinuxLoginItem::LinuxLoginItem(Places places)
 LoginItemStatus LinuxLoginItem::status() const
 {
     for (const fs::path& directory : places_.directories) {
-        const auto text = entryIn(directory);
-        if (!text) {
+        const auto entry = readDesktopEntry(entryPath(directory));
+        if (!entry) {
             continue;
         }
-        const DesktopEntry entry(*text);
-        if (entry.isTrue("Hidden")) {
+        if (entry->text("Hidden") == "true") {
             return LoginItemStatus::NotRegistered;
         }
-        if (entry.isFalse("X-GNOME-Autostart-enabled") || entry.isFalse("X-MATE-Autostart-enabled")) {
+        if (entry->text("X-GNOME-Autostart-enabled") == "false" ||
+            entry->text("X-MATE-Autostart-enabled") == "false") {
             return LoginItemStatus::RequiresApproval;
         }
-        const auto program = entry.text("TryExec");
+        const auto program = entry->text("TryExec");
         return !program || canRun(*program) ? LoginItemStatus::Enabled : LoginItemStatus::NotFound;
     }
     return LoginItemStatus::NotRegistered;
@@ -98,21 +95,11 @@ Outcome LinuxLoginItem::unregisterItem()
     return std::monostate{};
 }
 
-std::optional<std::string> LinuxLoginItem::entryIn(const fs::path& directory) const
-{
-    const auto bytes = LinuxFiles().read(entryPath(directory), kLargestEntry);
-    if (!bytes) {
-        return std::nullopt;
-    }
-    const auto& content = *bytes.value();
-    return std::string(reinterpret_cast<const char*>(content.data()), content.size());
-}
-
 bool LinuxLoginItem::hasSystemEntry() const
 {
     return places_.directories.size() > 1 &&
            std::any_of(places_.directories.begin() + 1, places_.directories.end(),
-                       [this](const fs::path& directory) { return entryIn(directory).has_value(); });
+                       [](const fs::path& directory) { return readDesktopEntry(entryPath(directory)); });
 }
 
 Outcome LinuxLoginItem::write(const std::string& text) const

@@ -3,7 +3,6 @@
 #include "Platform/Desktop/LoginItem.h"
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,7 +31,6 @@ public:
     Outcome unregisterItem() override;
 
 private:
-    [[nodiscard]] std::optional<std::string> entryIn(const std::filesystem::path& directory) const;
     [[nodiscard]] bool hasSystemEntry() const;
     [[nodiscard]] Outcome write(const std::string& text) const;
     [[nodiscard]] std::string enabledEntry() const;
