@@ -59,9 +59,7 @@ bool LinuxWorkspace::openUrl(const std::string& url)
 
 Subscription LinuxWorkspace::onActivation(ActivationHandler handler)
 {
-    auto shared = std::make_shared<ActivationHandler>(std::move(handler));
-    handlers_.push_back(shared);
-    return Subscription([shared]() mutable { shared.reset(); });
+    return activations_.add([this, handler = std::move(handler)] { handler(frontmost_); });
 }
 
 void LinuxWorkspace::connect()
@@ -102,12 +100,7 @@ void LinuxWorkspace::setFront(const std::optional<WindowFacts>& window)
         return;
     }
     frontmost_ = std::move(application);
-    std::erase_if(handlers_, [](const auto& handler) { return handler.expired(); });
-    for (const auto& weak : std::vector(handlers_)) {
-        if (const auto handler = weak.lock()) {
-            (*handler)(frontmost_);
-        }
-    }
+    activations_.call();
 }
 
 } // namespace tocca::platform::linux

@@ -5,13 +5,13 @@
 #include "Platform/Linux/System/SecureInput.h"
 #include "Platform/Linux/X11/DesktopWatch.h"
 #include "Platform/Timers.h"
+#include "Support/Listeners.h"
 
 #include <QSocketNotifier>
 
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace tocca::platform::linux {
 
@@ -44,7 +44,7 @@ private:
     Timers& timers_;
     DesktopEntries entries_;
     std::optional<RunningApplication> frontmost_;
-    std::vector<std::weak_ptr<ActivationHandler>> handlers_;
+    Listeners activations_;
     std::unique_ptr<DesktopWatch> watch_;
     std::unique_ptr<QSocketNotifier> notifier_;
     std::unique_ptr<Timer> retry_;
