@@ -82,7 +82,6 @@ TEST(LinuxMainQueue, DropsItsOldestRealtimeTasksWhenTheMainThreadLagsBehind)
         queue.runReady();
     }
     EXPECT_EQ(ran, 1024);
-    EXPECT_EQ(queue.dropped(), static_cast<std::uint64_t>(kTasks - 1024));
 }
 
 TEST(LinuxMainQueue, GoesOnInsideALoopThatATaskRuns)

@@ -28,9 +28,6 @@ public:
     /// Runs what is queued, a bounded number of tasks at a time, so that the toolkit's own events get their turn.
     void runReady();
 
-    /// How many tasks of `postRealtime` were dropped because there was no room. Threads: any.
-    [[nodiscard]] std::uint64_t dropped() const noexcept { return realtime_.dropped(); }
-
 private:
     bool take(Task& task);
     void ring() noexcept;
