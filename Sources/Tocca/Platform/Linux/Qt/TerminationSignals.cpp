@@ -20,9 +20,6 @@ TerminationSignals::TerminationSignals()
         return; // the signals then end the process at once, as they would without this
     }
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    if (QCoreApplication::instance() != nullptr) {
-        attach();
-    }
 }
 
 void TerminationSignals::attach()
