@@ -77,7 +77,6 @@ app_module(tocca_linux_desktop
         Platform/Linux/Tray/StatusNotifierWatch
     HEADERS
         Platform/Linux/Freedesktop/DBusReply.h
-        Platform/Linux/Qt/Later.h
         Platform/Linux/Qt/Windows/QuickView.h
         Platform/Linux/Tray/MenuNode.h
     DEPENDS tocca_linux_audio tocca_linux_x11 Qt6::Core Qt6::DBus Qt6::Gui Qt6::Qml Qt6::Quick)

@@ -6,7 +6,6 @@ app_module(tocca_linux_system
         Platform/Linux/Freedesktop/Applications/KnownApplications
         Platform/Linux/Freedesktop/Applications/LinuxLoginItem
         Platform/Linux/Freedesktop/Applications/WindowOwner
-        Platform/Linux/System/FileDescriptor
         Platform/Linux/System/LinuxRandom
         Platform/Linux/System/LinuxStandardOutput
         Platform/Linux/System/ProcessNames
@@ -27,6 +26,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/Threads/WakeDescriptor
     HEADERS
         Platform/Linux/System/ApplicationId.h
+        Platform/Linux/System/FileDescriptor.h
         Platform/Linux/System/Files/SystemCalls.h
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxHaptics.h

@@ -1,7 +1,6 @@
 #include "Platform/Linux/Freedesktop/FolderPortal.h"
 
 #include "Platform/Linux/Freedesktop/DBusReply.h"
-#include "Platform/Linux/Qt/Later.h"
 
 #include <QDBusMessage>
 #include <QDBusObjectPath>
@@ -28,7 +27,7 @@ FolderPortal::FolderPortal(QDBusConnection bus, Observers observers)
 void FolderPortal::ask(const QString& prompt, const QString& parent)
 {
     if (!bus_.isConnected()) {
-        later(*this, [this] { observers_.unavailable(); });
+        QMetaObject::invokeMethod(this, observers_.unavailable, Qt::QueuedConnection);
         return;
     }
     // The answer may come before the reply that names it, so its name is made up here.

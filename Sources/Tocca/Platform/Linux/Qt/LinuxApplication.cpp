@@ -2,7 +2,6 @@
 
 #include "Platform/Linux/Freedesktop/DesktopNotice.h"
 #include "Platform/Linux/Qt/ApplicationIcon.h"
-#include "Platform/Linux/Qt/Later.h"
 #include "Platform/Linux/Qt/Windows/ContentWindow.h"
 #include "Platform/Linux/Qt/Windows/WindowActivation.h"
 #include "Platform/Linux/System/ApplicationId.h"
@@ -41,12 +40,13 @@ int LinuxApplication::run(ApplicationDelegate& delegate)
     QGuiApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
     delegate_ = &delegate;
     QObject context; // what is still due when the loop ends does not happen
-    later(context, [this, &delegate] {
+    const auto launched = [this, &delegate] {
         delegate.applicationDidFinishLaunching();
         if (std::exchange(hasWishToReopen_, false)) {
             reopen();
         }
-    });
+    };
+    QMetaObject::invokeMethod(&context, launched, Qt::QueuedConnection);
     const int status = QCoreApplication::exec();
     delegate_ = nullptr;
     service_.reset(); // from here another instance may take over

@@ -1,7 +1,5 @@
 #include "Platform/Linux/Tray/DBusMenu.h"
 
-#include "Platform/Linux/Qt/Later.h"
-
 #include <cstddef>
 #include <utility>
 
@@ -90,7 +88,7 @@ void DBusMenu::Event(int id, const QString& eventId, const QDBusVariant& /*data*
     const MenuNode& node = entries_[static_cast<std::size_t>(id)].node;
     if (node.isEnabled && node.choose) {
         // After the answer: what is chosen may end the program or this menu.
-        later(*this, [choose = node.choose] { choose(); });
+        QMetaObject::invokeMethod(this, node.choose, Qt::QueuedConnection);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "Platform/Linux/Qt/Windows/FolderDialog.h"
 
-#include "Platform/Linux/Qt/Later.h"
 #include "Platform/Linux/Qt/Windows/WindowActivation.h"
 #include "Platform/Linux/Qt/XDesktop.h"
 
@@ -63,7 +62,8 @@ void FolderDialog::finish(const std::optional<std::filesystem::path>& folder)
     }
     window_->hide();
     // Not from inside the dialog's own call.
-    later(*this, [completion = std::move(completion), folder] { completion(folder); });
+    QMetaObject::invokeMethod(
+        this, [completion = std::move(completion), folder] { completion(folder); }, Qt::QueuedConnection);
 }
 
 } // namespace tocca::platform::linux
