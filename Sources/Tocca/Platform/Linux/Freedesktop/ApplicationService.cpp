@@ -14,7 +14,8 @@ namespace {
 const QLatin1String kName(kApplicationId);
 const auto kPath = QStringLiteral("/org/tocca/Tocca");
 const auto kInterface = QStringLiteral("org.freedesktop.Application");
-const auto kToken = QStringLiteral("activation-token"); // by which a desktop lets a window come to the front
+const auto kToken =
+    QStringLiteral("activation-token"); // with which a desktop allows a window to come to the front
 
 } // namespace
 
@@ -77,7 +78,7 @@ void ApplicationService::ActivateAction(const QString& name, const QVariantList&
 void ApplicationService::adopt(const QVariantMap& platformData)
 {
     if (const QString token = platformData.value(kToken).toString(); !token.isEmpty()) {
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // the toolkit takes it from there
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // where Qt looks for it
     }
 }
 

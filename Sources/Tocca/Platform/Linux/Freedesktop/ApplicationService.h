@@ -10,7 +10,7 @@
 
 namespace tocca::platform::linux {
 
-/// The program's name on the session bus, and what launchers and a second instance say to who has it. Threads: main.
+/// The program on the session bus: it owns the name, and receives what launchers and a second instance ask of it. Threads: main.
 class ApplicationService : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -24,8 +24,8 @@ public:
     ApplicationService(QDBusConnection bus, Commands commands);
     ~ApplicationService() override;
 
-    /// Takes the name; true also where there is no bus. When somebody has it, asks them to come to the front, waits for that up to five
-    /// seconds, and returns false.
+    /// Takes the name; true also where there is no bus. When another instance has it, asks that one to come to the front, waits up to five
+    /// seconds for the reply, and returns false.
     [[nodiscard]] bool claim();
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)

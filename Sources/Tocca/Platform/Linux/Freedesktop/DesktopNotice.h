@@ -5,8 +5,8 @@
 
 namespace tocca::platform::linux {
 
-/// Shows a short text beside the program's name, where the desktop has notices; does not wait.
-/// Threads: main. Errors: ignored; where nobody shows notices, there is none.
+/// Shows a desktop notification with the program's name and `text`; does not wait.
+/// Threads: main. Errors: ignored; a desktop without notifications shows none.
 void sendDesktopNotice(const QDBusConnection& bus, const QString& text);
 
 } // namespace tocca::platform::linux

@@ -30,7 +30,7 @@ void FolderPortal::ask(const QString& prompt, const QString& parent)
         QMetaObject::invokeMethod(this, observers_.unavailable, Qt::QueuedConnection);
         return;
     }
-    // The answer may come before the reply that names it, so its name is made up here.
+    // The response may come before the reply that tells where it comes from, so that place is worked out here.
     static int count = 0;
     const QString token = QStringLiteral("tocca%1").arg(++count);
     QString sender = bus_.baseService().mid(1);

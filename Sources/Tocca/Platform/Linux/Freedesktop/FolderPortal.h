@@ -11,7 +11,7 @@
 
 namespace tocca::platform::linux {
 
-/// One question for a folder to the desktop portal. Threads: main.
+/// One request to the desktop portal to let the person choose a folder. Threads: main.
 class FolderPortal : public QObject {
     Q_OBJECT
 

@@ -40,7 +40,7 @@ LinuxWorkspace::~LinuxWorkspace() = default;
 bool LinuxWorkspace::openUrl(const std::string& url)
 {
     const QUrl parsed(QString::fromStdString(url), QUrl::StrictMode);
-    // A scheme also keeps the argument from being taken for an option.
+    // What begins with a scheme cannot be mistaken for an option.
     if (!parsed.isValid() || parsed.scheme().isEmpty()) {
         return false;
     }
@@ -51,7 +51,7 @@ bool LinuxWorkspace::openUrl(const std::string& url)
     QProcess opener;
     opener.setProgram(program);
     opener.setArguments({parsed.toString(QUrl::FullyEncoded)});
-    // What the opened program prints is none of this program's lines.
+    // What the opened program prints must not appear among this program's lines.
     opener.setStandardOutputFile(QProcess::nullDevice());
     opener.setStandardErrorFile(QProcess::nullDevice());
     return opener.startDetached();
@@ -79,7 +79,7 @@ void LinuxWorkspace::serve()
 {
     if (!watch_->serve()) {
         notifier_->setEnabled(false);
-        // Not here: the notifier is in the midst of its call.
+        // Later, because the notifier is calling.
         retry_ = timers_.scheduleOnce(0.0, [this] { lose(); });
     }
 }

@@ -15,18 +15,18 @@
 
 namespace tocca::platform::linux {
 
-/// The desktop as xdg-open and the X server know it; in a Wayland session nobody may know what is in front.
+/// The desktop: opens URLs with xdg-open and learns from the X server which application is in front. A Wayland session tells no program.
 ///
-/// It also keeps `SecureInput` told of lock screens and password prompts.
+/// It also sets and clears the reason of `SecureInput` for windows of lock screens and password prompts.
 class LinuxWorkspace : public Workspace {
 public:
     LinuxWorkspace(SecureInput& secureInput, Timers& timers);
     ~LinuxWorkspace() override;
 
-    /// Errors: false for what is no absolute URL and where xdg-open is missing; what xdg-open finds is not waited for.
+    /// Errors: false for anything but an absolute URL, and where xdg-open is missing. What xdg-open itself achieves is not waited for.
     bool openUrl(const std::string& url) override;
 
-    /// Nothing until the X server's first answer, of which the activation handlers are told.
+    /// Nothing until the X server's first answer, which the activation handlers hear of.
     [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override
     {
         return frontmost_;

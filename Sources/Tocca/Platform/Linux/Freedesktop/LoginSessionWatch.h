@@ -12,8 +12,8 @@ namespace tocca::platform::linux {
 
 /// Follows whether the system's login manager says that this session is locked.
 ///
-/// It believes the session's `LockedHint`, which lock screens keep. The `Lock` signal is only a request, which nobody may have
-/// heeded: taken for a lock, it would never end.
+/// It believes the session's `LockedHint`, which lock screens set and clear. The `Lock` signal is only a request: if no lock screen
+/// follows it, nothing would ever tell that the session is unlocked.
 /// Threads: main.
 class LoginSessionWatch : public QObject {
     Q_OBJECT
@@ -29,7 +29,7 @@ private:
 
     QDBusConnection bus_;
     const std::function<void(bool)> report_;
-    bool hasHeard_ = false; // a change is newer than the answer to the first question
+    bool hasHeard_ = false; // of a change, which is newer than the reply to the first question
 };
 
 } // namespace tocca::platform::linux

@@ -44,7 +44,7 @@ void MotionPreference::settingChanged(const QString& space, const QString& key, 
 
 void MotionPreference::take(QVariant value)
 {
-    // Older portals wrap their answer twice.
+    // Older portals wrap the value twice.
     while (value.canConvert<QDBusVariant>() && value.metaType() == QMetaType::fromType<QDBusVariant>()) {
         value = value.value<QDBusVariant>().variant();
     }

@@ -8,7 +8,7 @@
 
 namespace tocca::platform::linux {
 
-/// Whether the person has asked the desktop for less motion, as the settings portal tells; without one nobody has.
+/// Follows whether the person has asked the desktop for less motion, as the settings portal tells; without a portal nobody has.
 ///
 /// Threads: main. Lifetime: `changed` is called while it lives, first when the portal has answered.
 class MotionPreference : public QObject {

@@ -6,8 +6,8 @@ namespace tocca::platform::linux {
 
 /// Asks the system's RealtimeKit service to raise the nice value of one of this process's threads; does not wait.
 ///
-/// Not its real-time classes: they come with a limit under which the kernel kills a process that computes for too long, and
-/// reading a long recording may.
+/// It does not ask for real-time scheduling: RealtimeKit grants that only to processes that the kernel kills when they compute for too
+/// long, and reading a long recording may take that long.
 /// Threads: main.
 /// Errors: ignored; where the service is missing or refuses, the thread stays an ordinary one.
 void raiseThreadThroughRealtimeKit(std::uint64_t threadId);

@@ -15,11 +15,11 @@ ScreenSaverWatch::ScreenSaverWatch(QDBusConnection bus, Service service, std::fu
     , watcher_(QLatin1String(service.name), bus_, QDBusServiceWatcher::WatchForOwnerChange)
 {
     QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, [this] {
-        // One that is gone has taken its lock along; a new one may have locked before it took the name.
+        // A screen saver that is gone locks nothing any more; a new one may have locked before it took the name.
         activeChanged(false);
         ask();
     });
-    // Some announce themselves under another path than the one they are asked at.
+    // From any path: some send the signal from another one than the one that answers questions.
     bus_.connect(QLatin1String(service.name), QString(), QLatin1String(service.name),
                  QStringLiteral("ActiveChanged"), this, SLOT(activeChanged(bool)));
     ask();

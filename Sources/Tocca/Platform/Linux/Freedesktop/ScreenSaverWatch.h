@@ -9,13 +9,13 @@
 
 namespace tocca::platform::linux {
 
-/// Follows whether a screen saver of the session bus is active; one that is not running is not.
+/// Follows whether a screen saver on the session bus is active; one that does not run is not.
 /// Threads: main.
 class ScreenSaverWatch : public QObject {
     Q_OBJECT
 
 public:
-    /// What a screen saver is called on the bus.
+    /// Where a screen saver is on the bus.
     struct Service {
         const char* name; ///< also its interface's
         const char* path;
@@ -32,7 +32,7 @@ private:
     const Service service_;
     const std::function<void(bool)> report_;
     QDBusServiceWatcher watcher_;
-    unsigned question_ = 0; // answers to earlier ones come too late
+    unsigned question_ = 0; // the latest; replies to earlier ones are ignored
 };
 
 } // namespace tocca::platform::linux

@@ -9,10 +9,10 @@
 
 namespace tocca::platform::linux {
 
-/// Keeps `SecureInput` told of whether the session is locked, by whoever on the system and session buses knows.
+/// Tells `SecureInput` whether the session is locked, as the login manager and the screen savers on the buses say.
 ///
 /// Threads: main.
-/// Lifetime: begins after the application object. Errors: a bus that is missing has nothing to say.
+/// Lifetime: begins after the application object. Errors: a missing bus counts as one on which nothing is locked.
 class SessionLock {
 public:
     explicit SessionLock(SecureInput& secureInput);

@@ -4,7 +4,7 @@
 
 namespace tocca::platform::linux {
 
-/// The program's icon: the desktop's theme may have its own, else the one in the program. Threads: main.
+/// The program's icon: that of the desktop's icon theme if it has one, else the one built in. Threads: main.
 [[nodiscard]] QIcon applicationIcon();
 
 } // namespace tocca::platform::linux

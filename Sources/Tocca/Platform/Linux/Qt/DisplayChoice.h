@@ -2,9 +2,11 @@
 
 namespace tocca::platform::linux {
 
-/// Tells the toolkit where its windows go: on the X server where one answers, XWayland included, since a Wayland compositor lets nobody
-/// place a popover or an overlay; else on Wayland; and without a display nowhere, so that the program runs all the same.
-/// Threads: main. Order: before the application object. A person's own choice of the toolkit's platform stands.
+/// Chooses where Qt shows the windows, unless QT_QPA_PLATFORM says so already.
+///
+/// An X server that answers comes first, XWayland included, because a Wayland compositor lets no program place a popover or an overlay.
+/// Then comes Wayland. Without a display the program runs all the same, and nobody sees its windows.
+/// Threads: main. Order: before the application object.
 void chooseDisplay();
 
 } // namespace tocca::platform::linux

@@ -39,7 +39,7 @@ int LinuxApplication::run(ApplicationDelegate& delegate)
     }
     QGuiApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
     delegate_ = &delegate;
-    QObject context; // what is still due when the loop ends does not happen
+    QObject context; // a call that is still waiting when the loop ends is dropped with it
     const auto launched = [this, &delegate] {
         delegate.applicationDidFinishLaunching();
         if (std::exchange(hasWishToReopen_, false)) {
@@ -55,7 +55,7 @@ int LinuxApplication::run(ApplicationDelegate& delegate)
 
 void LinuxApplication::setActivationPolicy(ActivationPolicy policy)
 {
-    // Only ordinary windows are in the task bar, and only while they are shown: there is nothing more to tell the desktop.
+    // The desktop needs no telling: its task bar has ordinary windows, and those only while they are shown.
     if (policy == ActivationPolicy::regular || hasSaidWhereItIs_ || surroundings_.hasStatusIcon()) {
         return;
     }
@@ -77,7 +77,7 @@ void LinuxApplication::activate()
 
 void LinuxApplication::terminate()
 {
-    QCoreApplication::exit(); // not quit, which asks the windows first, and ours refuse
+    QCoreApplication::exit(); // `quit` would ask the windows first, and ours refuse to close
 }
 
 void LinuxApplication::reopen()

@@ -11,7 +11,7 @@
 
 namespace tocca::platform::linux {
 
-/// The program on the toolkit's event loop; its name on the session bus is what makes it one a session.
+/// The program on Qt's event loop, once per session: whoever owns its name on the session bus is the one.
 ///
 /// Lifetime: begins after the application object.
 class LinuxApplication : public Application {
@@ -24,8 +24,8 @@ public:
 
     explicit LinuxApplication(Surroundings surroundings);
 
-    /// Whether this is the session's only instance, which is so without a session bus as well. Otherwise the other one has been told
-    /// to reopen by now, or has not answered in time. `run` asks as well; asking before spares the start of everything else.
+    /// Whether this is the first instance of the session; without a session bus every one is. The first has been told to reopen, or did
+    /// not answer in time, when this returns false. `run` asks too; asking earlier spares a second instance the start of everything else.
     [[nodiscard]] bool isFirstInstance();
 
     int run(ApplicationDelegate& delegate) override;
@@ -33,7 +33,7 @@ public:
     void activate() override;
     void terminate() override;
 
-    /// Deals with a wish to see the program again.
+    /// Shows the program again, at once or as soon as it runs.
     void reopen();
 
 private:

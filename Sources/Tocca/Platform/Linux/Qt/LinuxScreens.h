@@ -14,7 +14,7 @@ class QScreen;
 
 namespace tocca::platform::linux {
 
-/// The displays as the toolkit knows them; none without one.
+/// The displays that Qt knows; there is no main screen without a display.
 class LinuxScreens : public Screens {
 public:
     [[nodiscard]] std::optional<Screen> main() const override;
@@ -29,7 +29,7 @@ private:
     std::unique_ptr<QObject> mainObserver_; // of the display that is the main one now
 };
 
-/// Where a frame of the controllers lies for the toolkit, whose y runs downwards, on a main screen that it says lies at `main`.
+/// A frame of the controllers, whose y runs upwards from the main screen's bottom, in Qt's coordinates, in which that screen is `main`.
 /// Units: points on both sides, rounded to whole ones.
 [[nodiscard]] QRect qtRect(const Rect& frame, const QRect& main);
 

@@ -15,7 +15,7 @@ bool LocalKeys::eventFilter(QObject* /*watched*/, QEvent* event)
         take(static_cast<const QKeyEvent&>(*event));
         break;
     case QEvent::FocusOut:
-        // Whatever is down is let go of somewhere else.
+        // Keys that are down now will be released in another window.
         keys_.resynchronize(
             {}, false, [this](const KeyTransition& transition) { deliver(transition, monotonicSeconds()); });
         break;
@@ -27,7 +27,7 @@ bool LocalKeys::eventFilter(QObject* /*watched*/, QEvent* event)
 
 void LocalKeys::take(const QKeyEvent& event)
 {
-    const quint32 scanCode = event.nativeScanCode(); // the kernel's plus 8, on X11 and on Wayland
+    const quint32 scanCode = event.nativeScanCode(); // the kernel's code plus 8, on X11 and on Wayland
     if (scanCode == 0 || scanCode >= KeyRoles::kKeys) {
         return; // made by a program, not by a keyboard
     }

@@ -9,8 +9,8 @@ class QKeyEvent;
 
 namespace tocca::platform::linux {
 
-/// Shows the monitors the keys that reach the windows it is installed in as an event filter, named and counted as those of the whole
-/// session are. Threads: main.
+/// An event filter that shows the local monitors the keys of the windows it is installed in. It names keys and sorts out repeats as the
+/// capture of the whole session does. Threads: main.
 class LocalKeys : public QObject {
 public:
     explicit LocalKeys(LinuxLocalMonitors& monitors) noexcept

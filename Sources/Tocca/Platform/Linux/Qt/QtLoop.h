@@ -7,7 +7,7 @@ namespace tocca::platform::linux {
 class LinuxMainQueue;
 class LinuxTimers;
 
-/// Lets the toolkit's event loop serve the main queue and the timers.
+/// Lets Qt's event loop serve the main queue and the timers.
 ///
 /// Threads: main.
 /// Lifetime: begins after the application object; ends before the queue and the timers.

@@ -2,9 +2,9 @@
 
 namespace tocca::platform::linux {
 
-/// Lets the toolkit draw with the processor where no graphics hardware can be used, and with OpenGL elsewhere.
+/// Lets Qt draw with OpenGL where there is graphics hardware, and with the processor elsewhere.
 ///
-/// Without hardware, OpenGL is emulated: that takes longer to start, more memory, and a thread for every core.
+/// OpenGL without hardware would be emulated, which takes longer to start, more memory, and a thread for every core.
 /// Threads: main. Order: after the application object, before the first window.
 void chooseRenderer();
 

@@ -17,7 +17,7 @@ TerminationSignals::TerminationSignals()
     }
     descriptor_ = FileDescriptor(signalfd(-1, &signals, SFD_NONBLOCK | SFD_CLOEXEC));
     if (!descriptor_.isOpen()) {
-        return; // the signals then end the process at once, as they would without this
+        return; // the signals end the process at once
     }
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 }
@@ -31,7 +31,7 @@ void TerminationSignals::attach()
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
         signalfd_siginfo info{};
         if (read(descriptor_.get(), &info, sizeof(info)) == static_cast<ssize_t>(sizeof(info))) {
-            QCoreApplication::exit(); // not quit, which asks the windows first, and ours refuse
+            QCoreApplication::exit(); // `quit` would ask the windows first, and ours refuse to close
         }
     });
 }

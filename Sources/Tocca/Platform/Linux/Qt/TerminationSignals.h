@@ -8,16 +8,16 @@
 
 namespace tocca::platform::linux {
 
-/// Makes SIGTERM, SIGINT and SIGHUP end the toolkit's event loop instead of the process.
+/// Makes SIGTERM, SIGINT and SIGHUP end Qt's event loop instead of the process.
 ///
-/// Lifetime: made on the main thread before any other thread starts, so that all of them leave the signals alone. An application object
-/// with windows starts one: then make this first and `attach` it afterwards.
+/// Lifetime: made on the main thread before any other thread starts, so that all threads leave the signals alone. The application object
+/// starts one, hence the two steps.
 class TerminationSignals {
 public:
-    /// Attaches itself when the application object is there already.
+    /// Keeps the signals from ending the process.
     TerminationSignals();
 
-    /// Has the event loop look after the signals. Order: after the application object; once.
+    /// Lets the event loop receive the signals. Order: after the application object; once.
     void attach();
 
 private:

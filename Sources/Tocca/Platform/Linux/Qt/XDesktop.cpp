@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kCompositor = 0;
 constexpr std::size_t kTray = 1;
 
-xcb_connection_t* toolkitsConnection()
+xcb_connection_t* connectionOfQt()
 {
     auto* const application = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
     if (application == nullptr) {
@@ -28,12 +28,12 @@ xcb_connection_t* toolkitsConnection()
 
 bool XDesktop::isPresent()
 {
-    return toolkitsConnection() != nullptr;
+    return connectionOfQt() != nullptr;
 }
 
 std::optional<WindowRequests> XDesktop::requests()
 {
-    auto* const connection = toolkitsConnection();
+    auto* const connection = connectionOfQt();
     return connection != nullptr ? std::optional<WindowRequests>(std::in_place, connection) : std::nullopt;
 }
 
@@ -76,7 +76,7 @@ void XDesktop::watch()
     notifier_ = std::make_unique<QSocketNotifier>(selections_->fd(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
         if (!selections_->serve()) {
-            notifier_->setEnabled(false); // the toolkit ends the program when its server is gone
+            notifier_->setEnabled(false); // Qt ends the program when the server is gone
         }
     });
 }

@@ -13,27 +13,28 @@ class QWindow;
 
 namespace tocca::platform::linux {
 
-/// The X11 desktop that the toolkit's windows are on, if they are.
+/// The X11 desktop on which Qt shows the windows, if it does.
 ///
-/// Threads: main. Everything is looked up when it is first asked for, so that nobody needs a display before.
+/// Nothing is asked of the X server before somebody asks this object.
+/// Threads: main.
 class XDesktop {
 public:
-    /// Whether the toolkit talks to an X server.
+    /// Whether Qt talks to an X server.
     [[nodiscard]] static bool isPresent();
 
-    /// Nothing on other desktops.
+    /// Requests to the window manager; nothing on other desktops.
     [[nodiscard]] static std::optional<WindowRequests> requests();
 
-    /// Makes the toolkit's own window for `window` if need be, and names the program in it.
+    /// Creates the X window of `window` if it has none yet, and names the program in it.
     static void adopt(QWindow& window);
 
-    /// Whether windows are composed, so that transparent ones can be shown.
+    /// Whether a compositor runs, so that transparent windows can be shown.
     [[nodiscard]] bool isComposed();
 
-    /// The window of the tray that takes in icons by embedding them, `XCB_NONE` where there is none.
+    /// The window of the tray that embeds icons; `XCB_NONE` where there is none.
     [[nodiscard]] xcb_window_t trayOwner();
 
-    /// Calls `handler` when the answer of `isComposed` or `trayOwner` may have changed.
+    /// Calls `handler` when `isComposed` or `trayOwner` may have changed.
     [[nodiscard]] Subscription onChange(std::function<void()> handler);
 
 private:

@@ -7,20 +7,20 @@
 
 namespace tocca::platform::linux {
 
-/// An entry and its properties, as the menus of the bus name them.
+/// An entry of a DBusMenu: its number and the properties that it has in the protocol.
 struct DBusMenuEntry {
     int id = 0;
     QVariantMap properties;
 };
 
-/// An entry with what hangs below it.
+/// An entry with everything below it.
 struct DBusMenuTree {
     int id = 0;
     QVariantMap properties;
     QList<DBusMenuTree> children;
 };
 
-/// Something that happened to an entry.
+/// What a person did to an entry.
 struct DBusMenuEvent {
     int id = 0;
     QString event;

@@ -90,7 +90,7 @@ void EmbeddedIcon::create(xcb_window_t tray)
     const xcb_atom_t embedding = atom("_XEMBED_INFO");
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, embedding, embedding, kWordBits,
                         kEmbedding.size(), kEmbedding.data());
-    // A tray that dies leaves the icon behind; then nobody is here any more.
+    // A tray that dies leaves the icon behind, so the tray is watched as well.
     constexpr std::uint32_t kTrayEvents = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(connection, tray, XCB_CW_EVENT_MASK, &kTrayEvents);
 
@@ -154,7 +154,7 @@ void EmbeddedIcon::repaint()
         const XReply<xcb_get_image_reply_t> ground(xcb_get_image_reply(connection, cookie, nullptr));
         const auto bytes = pixels.size() * sizeof(std::uint32_t);
         if (!ground || static_cast<std::size_t>(xcb_get_image_data_length(ground.get())) < bytes) {
-            return; // it is out of sight, or the server has another format than everybody else's
+            return; // the icon is out of sight, or the server's pixel format is an unusual one
         }
         const auto* const behind = reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(ground.get()));
         std::transform(pixels.begin(), pixels.end(), behind, pixels.begin(), blend);

@@ -10,7 +10,7 @@
 
 namespace tocca::platform::linux {
 
-/// An icon inside an X11 tray, on a connection of its own to the X server that DISPLAY names.
+/// The tray icon as a window inside an X11 tray, on a connection of its own to the X server that DISPLAY names.
 ///
 /// Threads: one at a time; the observers are called from inside `serve`.
 /// Units: device pixels.

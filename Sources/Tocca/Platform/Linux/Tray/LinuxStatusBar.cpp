@@ -19,7 +19,7 @@ const QString kIconName = QLatin1String(kApplicationId) + QStringLiteral("-symbo
 const auto kMenuPath = QStringLiteral("/StatusItemMenu");
 const QColor kLight(0xEE, 0xEE, 0xEE); // most trays are dark, and the icon has a rim
 
-/// The icon's name when the desktop's panels can find it, which then colour it to match.
+/// The icon's name when it is installed, so that panels find it and colour it to match; else empty.
 QString installedIconName()
 {
     const auto file =

@@ -18,8 +18,8 @@ namespace tocca::platform::linux {
 
 class LinuxStatusItem;
 
-/// The tray: status items of the session bus where somebody shows those, else an icon that an X11 tray takes in. Either may come
-/// and go at any time.
+/// The tray: a StatusNotifierItem where the desktop shows those, else an icon embedded in an X11 tray. Both kinds of tray may come and go
+/// at any time.
 class LinuxStatusBar : public StatusBar {
 public:
     /// What the icon's menu does besides showing the popover.
@@ -33,7 +33,7 @@ public:
     /// One at a time.
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
 
-    /// Whether the icon is to be seen, as far as the desktop tells.
+    /// Whether the icon can be seen, as far as the desktop tells.
     [[nodiscard]] bool isShown() const;
 
 private:
@@ -44,7 +44,7 @@ private:
     LinuxStatusItem* item_ = nullptr;
 };
 
-/// Lifetime: ends before its status bar.
+/// The icon in the tray, with its menu. Lifetime: ends before its status bar.
 class LinuxStatusItem final : public StatusItem {
 public:
     explicit LinuxStatusItem(LinuxStatusBar& bar);
@@ -58,7 +58,7 @@ public:
 
     void setAction(std::function<void()> action) override { action_ = std::move(action); }
 
-    /// Where the icon is on the screen, empty when nobody tells. Units: the toolkit's points.
+    /// Where the icon is on the screen; empty when the desktop does not tell. Units: Qt's points.
     [[nodiscard]] QRect iconPlace() const;
 
     [[nodiscard]] bool isShown() const;
@@ -68,7 +68,7 @@ private:
     void openMenu();
     [[nodiscard]] MenuNode menu();
 
-    /// Puts an icon into an X11 tray, or takes it out, as things are now.
+    /// Embeds the icon in the X11 tray, or removes it, whichever the trays that are there now ask for.
     void follow();
 
     LinuxStatusBar& bar_;
@@ -80,7 +80,7 @@ private:
     std::unique_ptr<StatusNotifierWatch> notifierWatch_;
     std::unique_ptr<EmbeddedIcon> embedded_;
     std::unique_ptr<QSocketNotifier> embeddedNotifier_;
-    xcb_window_t refusedTray_ = XCB_NONE; // it has thrown the icon out
+    xcb_window_t refusedTray_ = XCB_NONE; // the tray that has thrown the icon out
     Subscription traysChanged_;
 };
 

@@ -102,7 +102,7 @@ void PopupMenu::mousePressEvent(QMouseEvent* event)
 
 void PopupMenu::mouseReleaseEvent(QMouseEvent* event)
 {
-    // The release of the click that opened the menu lies on no entry that the pointer has moved to.
+    // The release of the click that opened the menu chooses nothing, because the pointer has not moved to an entry yet.
     if (selected_ >= 0 && indexAt(event->position().toPoint()) == selected_) {
         chooseSelected();
     }

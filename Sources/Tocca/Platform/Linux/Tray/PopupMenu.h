@@ -7,7 +7,7 @@
 
 namespace tocca::platform::linux {
 
-/// A small menu of our own, for trays that leave that to their icons. It closes with a choice, Escape, or a click elsewhere.
+/// The icon's menu as a window of our own, for trays that show none. A choice, Escape, or a click elsewhere closes it.
 /// Threads: main.
 class PopupMenu : public QRasterWindow {
 public:

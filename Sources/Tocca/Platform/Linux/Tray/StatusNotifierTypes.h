@@ -8,7 +8,7 @@
 
 namespace tocca::platform::linux {
 
-/// A picture as status items send it. Units: pixels; ARGB in network order, not premultiplied.
+/// A picture of the StatusNotifierItem protocol. Units: pixels; ARGB in network order, not premultiplied.
 struct StatusPixmap {
     int width = 0;
     int height = 0;
@@ -17,7 +17,7 @@ struct StatusPixmap {
 
 using StatusPixmaps = QList<StatusPixmap>;
 
-/// What hovering over an icon shows.
+/// The tool tip of the StatusNotifierItem protocol.
 struct StatusToolTip {
     QString iconName;
     StatusPixmaps pixmaps;

@@ -34,7 +34,7 @@ StatusNotifierWatch::StatusNotifierWatch(QDBusConnection bus, std::function<void
 
 void StatusNotifierWatch::announce()
 {
-    // The item may be known before anybody shows it: those who come later find it in the list.
+    // Also before there is a tray: one that comes later finds the item in the watcher's list.
     auto call = QDBusMessage::createMethodCall(kService, kPath, kService,
                                                QStringLiteral("RegisterStatusNotifierItem"));
     call.setAutoStartService(false);

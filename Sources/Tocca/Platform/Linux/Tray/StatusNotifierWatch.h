@@ -9,13 +9,13 @@
 
 namespace tocca::platform::linux {
 
-/// Makes a status item known to whatever collects them for the desktop's trays, whenever that comes, and follows whether a tray is there.
+/// Registers the status item with the desktop's StatusNotifierWatcher whenever that appears, and follows whether a tray shows such items.
 /// Threads: main.
 class StatusNotifierWatch : public QObject {
     Q_OBJECT
 
 public:
-    /// `changed` is told when the answer of `hasHost` changes.
+    /// `changed` is called when `hasHost` changes.
     StatusNotifierWatch(QDBusConnection bus, std::function<void()> changed);
 
     /// Whether somebody shows status items.
@@ -30,7 +30,7 @@ private:
     const std::function<void()> changed_;
     QDBusServiceWatcher watcher_;
     bool hasHost_ = false;
-    unsigned question_ = 0; // answers to earlier ones come too late
+    unsigned question_ = 0; // the latest; replies to earlier ones are ignored
 };
 
 } // namespace tocca::platform::linux

@@ -88,7 +88,7 @@ void DesktopEntries::readDirectory(const fs::path& root)
             found.push_back(entry->path());
         }
     }
-    std::sort(found.begin(), found.end()); // or chance would decide between two of one class
+    std::sort(found.begin(), found.end()); // so that it is always the same one of two with one class
     for (const fs::path& path : found) {
         std::string id = path.lexically_relative(root).native();
         id.resize(id.size() - kExtension.size());
@@ -102,7 +102,7 @@ void DesktopEntries::add(const fs::path& path, const std::string& id)
     const InstalledApplication application{.id = id, .path = path};
     const std::string lower = lowerCased(id);
     if (!ids_.emplace(lower, application).second) {
-        return; // one of an earlier directory hides it
+        return; // an earlier directory has one of this id
     }
     lastComponents_.emplace(lower.substr(lower.rfind('.') + 1), application);
     if (const auto entry = readDesktopEntry(path)) {

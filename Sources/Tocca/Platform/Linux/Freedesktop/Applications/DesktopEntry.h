@@ -9,7 +9,7 @@
 
 namespace tocca::platform::linux {
 
-/// The main group of a desktop entry file. Errors: lines that make no sense are skipped.
+/// The main group of a desktop entry file. Errors: lines that cannot be understood are skipped.
 class DesktopEntry {
 public:
     explicit DesktopEntry(std::string_view text);
@@ -17,7 +17,7 @@ public:
     /// The value of `key` without its escapes.
     [[nodiscard]] std::optional<std::string> text(const std::string& key) const;
 
-    /// The value of `key` in the first of `locales` that has one, else in none.
+    /// The value of `key` in the first of `locales` that has one, else the value without a locale.
     [[nodiscard]] std::optional<std::string> localizedText(const std::string& key,
                                                            const std::vector<std::string>& locales) const;
 
@@ -31,13 +31,13 @@ private:
 /// The names under which a locale's texts are looked for, best first: "de_AT@euro" gives itself, "de_AT", "de@euro" and "de".
 [[nodiscard]] std::vector<std::string> localeVariants(std::string_view locale);
 
-/// The same for the messages of this process's user.
+/// The same for the language of this process's messages.
 [[nodiscard]] std::vector<std::string> userLocales();
 
-/// `value` as it stands in a desktop entry.
+/// `value` with the escapes that a desktop entry needs.
 [[nodiscard]] std::string escapedText(std::string_view value);
 
-/// `argument` as one argument of an `Exec` line, as it stands in the file.
+/// `argument` quoted and escaped as one argument of an `Exec` line.
 [[nodiscard]] std::string escapedArgument(std::string_view argument);
 
 } // namespace tocca::platform::linux

@@ -29,7 +29,7 @@ fs::path thisProgram()
     std::error_code error;
     std::string path = fs::read_symlink("/proc/self/exe", error).native();
     if (path.ends_with(kReplaced)) {
-        path.resize(path.size() - kReplaced.size()); // an update has put a new one in its place
+        path.resize(path.size() - kReplaced.size()); // an update has replaced the running program's file
     }
     return path;
 }
@@ -41,7 +41,7 @@ fs::path entryPath(const fs::path& directory)
 
 bool canRun(const std::string& program)
 {
-    // Ours is always a path; a bare name, which only another's entry can have, is looked for by the desktop.
+    // A bare name, which only a foreign entry can have, is looked for by the desktop.
     return program.find('/') == std::string::npos || ::access(program.c_str(), X_OK) == 0;
 }
 

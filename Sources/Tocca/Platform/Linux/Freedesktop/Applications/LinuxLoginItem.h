@@ -8,12 +8,14 @@
 
 namespace tocca::platform::linux {
 
-/// An XDG autostart entry. The file is the truth: it is read each time, and the user's own hides one of the system's.
+/// Starting with the session, by an XDG autostart entry.
+///
+/// Nothing is remembered: the file is read each time. An entry of the user's own takes the place of the system's.
 class LinuxLoginItem : public LoginItem {
 public:
-    /// Where entries are, the user's first; none when the system names no directory for them.
+    /// What is started, and the directories of autostart entries: the user's first, then the system's. None when there is no home directory.
     struct Places {
-        std::filesystem::path program; ///< what is to be started
+        std::filesystem::path program;
         std::vector<std::filesystem::path> directories;
     };
 
@@ -21,13 +23,13 @@ public:
     LinuxLoginItem();
     explicit LinuxLoginItem(Places places);
 
-    /// `RequiresApproval` for an entry that a desktop's settings have switched off, `NotFound` for one whose program is gone.
+    /// `RequiresApproval` when a desktop's settings have switched the entry off, `NotFound` when the program that it starts is gone.
     [[nodiscard]] LoginItemStatus status() const override;
 
-    /// Writes the user's entry, whatever was there.
+    /// Writes the user's entry in place of whatever was there.
     Outcome registerItem() override;
 
-    /// Removes the user's entry, or leaves one there that hides the system's.
+    /// Removes the user's entry, or writes one that switches the system's off.
     Outcome unregisterItem() override;
 
 private:

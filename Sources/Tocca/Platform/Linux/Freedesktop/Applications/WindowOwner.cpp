@@ -33,7 +33,7 @@ std::optional<RunningApplication> applicationOf(const WindowOwner& owner, Deskto
     if (application) {
         names.push_back(application->id);
     }
-    // The class is what people know; the instance is often a detail of one window.
+    // The class before the instance, which is often a detail of one window.
     names.insert(names.end(), owner.windowClasses.rbegin(), owner.windowClasses.rend());
     std::erase(names, "");
     if (names.empty()) {

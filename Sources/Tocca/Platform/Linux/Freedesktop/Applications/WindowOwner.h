@@ -12,13 +12,15 @@ namespace tocca::platform::linux {
 /// What is known about the program that a window belongs to; any part may be empty.
 struct WindowOwner {
     std::vector<std::string>
-        applicationIds; ///< by the sandbox around it or as the window says, most trustworthy first
+        applicationIds; ///< as the sandbox or the window states them, most trustworthy first
     std::vector<std::string> windowClasses; ///< WM_CLASS: instance, class
     std::string executable;                 ///< name of its program
 };
 
-/// Which application that is: the identifier of one that the platform knows, else the id of its desktop entry or what the
-/// window calls itself; with its desktop entry's name, else its class. Nothing when the window says nothing.
+/// The application that a window belongs to; nothing when the window says nothing about it.
+///
+/// Its identifier is the platform's for a program in the table of known applications, else the id of its desktop entry, else what the
+/// window calls itself. Its name is the desktop entry's, else the window class.
 [[nodiscard]] std::optional<RunningApplication> applicationOf(const WindowOwner& owner,
                                                               DesktopEntries& entries);
 

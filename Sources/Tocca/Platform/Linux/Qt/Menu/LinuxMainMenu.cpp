@@ -44,7 +44,7 @@ bool LinuxMainMenu::performKey(const QKeyEvent& event)
     for (const Menu& menu : menus_) {
         for (const MenuItem& item : menu.items) {
             if (matches(item.keyEquivalent, event)) {
-                // The table may change meanwhile. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+                // A copy, as the action may install another table. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
                 const MenuItem chosen = item;
                 perform(chosen);
                 return true;

@@ -11,7 +11,7 @@
 
 namespace tocca::platform::linux {
 
-/// The menu as a table, its keys in the program's own windows, and, where the desktop has a global menu bar, the same menu there.
+/// The main menu: a table, its keys in the program's own windows, and a copy in the desktop's global menu bar where there is one.
 ///
 /// Lifetime: outlives the windows.
 class LinuxMainMenu : public MainMenu {

@@ -13,7 +13,7 @@ class QWindow;
 
 namespace tocca::platform::linux {
 
-/// Offers the main menu to the desktop's global menu bar, for every ordinary window, while there is one.
+/// Offers the main menu to the desktop's global menu bar, if there is one, for every ordinary window.
 /// Threads: main. Lifetime: ends before `windows`.
 class MenuExport : public QObject {
 public:
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] bool isShown() const noexcept { return hasRegistrar_; }
 
 protected:
-    /// Tells of a window whenever it is shown: not before then it has a number.
+    /// Announces a window whenever it is shown, because only then does it have a number.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -14,7 +14,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-/// An editing selector and what text fields of the toolkit call it.
+/// An editing selector, and the method of Qt's text fields that does it.
 struct Edit {
     std::string_view action;
     const char* method;

@@ -10,7 +10,7 @@
 
 namespace tocca::platform::linux {
 
-/// What the desktop answers to a menu's standard selectors. Threads: main.
+/// The actions of a menu that every program has, by their selectors: editing, hiding, closing, quitting. Threads: main.
 class StandardActions {
 public:
     struct Commands {
@@ -20,7 +20,7 @@ public:
 
     StandardActions(OwnWindows& windows, Commands commands);
 
-    /// False when `action` is none of them. One that finds nothing to act on does nothing.
+    /// Does `action`; false when it is none of these. One that finds nothing to act on does nothing.
     bool perform(std::string_view action);
 
 private:

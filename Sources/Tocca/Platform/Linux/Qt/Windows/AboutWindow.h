@@ -4,7 +4,7 @@
 
 namespace tocca::platform::linux {
 
-/// Says what the program is: icon, name, version, licence. Escape and Ctrl+W close it. Threads: main.
+/// The window that says what the program is: icon, name, version, licence. Escape and Ctrl+W close it. Threads: main.
 class AboutWindow : public QRasterWindow {
 public:
     AboutWindow();

@@ -24,7 +24,7 @@ ContentWindow::~ContentWindow()
     if (kind_ == Kind::ordinary) {
         family_.remove(*this);
     }
-    delete item_; // before the view, of which it may have kept something
+    delete item_; // before the view, which it may still refer to
 }
 
 void ContentWindow::setContent(std::unique_ptr<View> content)
@@ -46,7 +46,7 @@ bool ContentWindow::event(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Close:
-        // The toolkit would destroy a window that accepts; ours only hide.
+        // Qt would destroy the X window of one that accepts; ours only hide.
         event->ignore();
         closeRequested();
         return true;

@@ -12,7 +12,7 @@ namespace tocca::platform::linux {
 
 class OwnWindows;
 
-/// A window of the toolkit that is filled by a view.
+/// A Qt Quick window that is filled by a view.
 ///
 /// Threads: main.
 /// Lifetime: ends before `family`.
@@ -21,16 +21,16 @@ public:
     /// What kind of window it is to the rest of the program.
     enum class Kind : std::uint8_t {
         ordinary, ///< has the keyboard at times, and is hidden with the program
-        overlay,  ///< takes part in nothing
+        overlay,  ///< never has the keyboard, and is not hidden with the program
     };
 
     ContentWindow(OwnWindows& family, Kind kind);
     ~ContentWindow() override;
 
-    /// Shows `content` from now on; it must be a `QuickView`.
+    /// Fills the window with `content`, which must be a `QuickView`, from now on.
     void setContent(std::unique_ptr<View> content);
 
-    /// Shows the window, with its content made by now.
+    /// Makes the content if need be, and shows the window.
     void present();
 
     /// Whether a person drags something over the window.
@@ -44,7 +44,7 @@ protected:
     /// The person, the desktop or the menu wants the window closed.
     virtual void closeRequested() { hide(); }
 
-    /// A key that the content has no use for; true when the window has.
+    /// Handles a key that the content has no use for; false when the window has none either.
     virtual bool handleKey(const QKeyEvent& /*event*/) { return false; }
 
     /// What was dragged over the window was dropped or taken away again.

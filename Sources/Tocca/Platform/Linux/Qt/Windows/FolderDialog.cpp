@@ -58,10 +58,10 @@ void FolderDialog::finish(const std::optional<std::filesystem::path>& folder)
 {
     auto completion = std::exchange(completion_, nullptr);
     if (!completion) {
-        return; // the window's end also cancels
+        return; // hiding the window cancels once more
     }
     window_->hide();
-    // Not from inside the dialog's own call.
+    // Later, because `completion` ends this dialog, which is calling.
     QMetaObject::invokeMethod(
         this, [completion = std::move(completion), folder] { completion(folder); }, Qt::QueuedConnection);
 }

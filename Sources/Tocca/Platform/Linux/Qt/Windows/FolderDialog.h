@@ -14,14 +14,14 @@ class QQuickWindow;
 
 namespace tocca::platform::linux {
 
-/// The toolkit's own dialog for choosing a folder. Threads: main.
+/// Qt's own dialog for choosing a folder. Threads: main.
 class FolderDialog : public QObject {
     Q_OBJECT
 
 public:
     using Completion = std::function<void(std::optional<std::filesystem::path>)>;
 
-    /// Shows the dialog; null when the toolkit's dialogs are not installed. `completion` is called once, later.
+    /// Shows the dialog; null when Qt's dialogs are not installed. `completion` is called once, later.
     [[nodiscard]] static std::unique_ptr<FolderDialog> open(const QString& prompt, Completion completion);
 
     ~FolderDialog() override;

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Dialogs
 
-/// A window with nothing but the toolkit's own folder dialog in it.
+/// A window with nothing in it but Qt's own folder dialog.
 Window {
     id: root
 
@@ -11,7 +11,7 @@ Window {
     signal chosen(url folder)
     signal cancelled
 
-    // As large as the dialog, which the toolkit centres.
+    // As large as the dialog, which Qt centres.
     width: 600
     height: 400
     minimumWidth: width
@@ -31,7 +31,7 @@ Window {
 
         acceptLabel: root.prompt
         currentFolder: root.home
-        // The toolkit's own description of the type leaves these out.
+        // Qt's own description of the type leaves these options out.
         options: FolderDialog.DontUseNativeDialog // qmllint disable
         parentWindow: root
 

@@ -13,7 +13,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-/// How the portal is told which window the dialog belongs to.
+/// The portal's name for the window that the dialog belongs to.
 QString handleOf(const QWindow* window)
 {
     return window != nullptr && XDesktop::isPresent()
@@ -51,7 +51,7 @@ void LinuxOpenPanels::showOwnDialog(const std::string& prompt)
 
 void LinuxOpenPanels::finish(const std::optional<std::filesystem::path>& directory)
 {
-    // They are calling.
+    // Whichever there is, it is calling.
     if (portal_) {
         portal_.release()->deleteLater();
     }

@@ -9,7 +9,7 @@
 
 namespace tocca::platform::linux {
 
-/// The desktop portal's file chooser, or the toolkit's own dialog where there is no portal. Lifetime: ends before `windows`.
+/// Panels for choosing a folder: the desktop portal's, or Qt's own dialog where there is no portal. Lifetime: ends before `windows`.
 class LinuxOpenPanels : public OpenPanels {
 public:
     explicit LinuxOpenPanels(OwnWindows& windows) noexcept

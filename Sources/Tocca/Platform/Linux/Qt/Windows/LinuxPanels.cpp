@@ -87,7 +87,7 @@ public:
     }
 
 private:
-    /// Shows the window where it can be transparent; a black box helps nobody.
+    /// Shows the window only while a compositor can make it transparent, instead of a black box.
     void update()
     {
         if (!isVisible_ || !owner_.desktop_.isComposed()) {
@@ -96,7 +96,7 @@ private:
         }
         if (!window_.isVisible()) {
             XDesktop::adopt(window_);
-            // A window manager forgets what it knew of a window that was hidden.
+            // Each time, because a window manager forgets what it knew about a window that was hidden.
             XDesktop::requests()->makeOverlay(static_cast<xcb_window_t>(window_.winId()));
             window_.present();
         }

@@ -8,7 +8,7 @@
 
 namespace tocca::platform::linux {
 
-/// Overlays on X11; elsewhere nobody can place a window and let clicks through, so there they stay hidden.
+/// The overlays. They show on X11 only: elsewhere no program can place a window or let clicks through.
 ///
 /// Lifetime: outlives its panels.
 class LinuxPanels : public Panels {
@@ -24,7 +24,7 @@ public:
 private:
     class LinuxPanel;
 
-    /// Puts the panels that are to be seen in front, the lower levels below the higher ones.
+    /// Puts the visible panels in front of everything, higher levels above lower ones.
     void restack();
 
     OwnWindows& family_;

@@ -13,7 +13,7 @@ namespace tocca::platform::linux {
 
 namespace {
 
-/// Comes back where it was hidden.
+/// A window that comes back at the place where it was hidden.
 class TitledWindow final : public ContentWindow {
 public:
     explicit TitledWindow(OwnWindows& family)

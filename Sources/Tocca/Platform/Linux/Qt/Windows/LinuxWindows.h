@@ -5,7 +5,7 @@
 
 namespace tocca::platform::linux {
 
-/// Ordinary windows of the toolkit, which the desktop decorates. Lifetime: outlives its windows.
+/// Ordinary windows, with the desktop's frame around them. Lifetime: outlives its windows.
 class LinuxWindows : public Windows {
 public:
     explicit LinuxWindows(OwnWindows& family) noexcept

@@ -13,16 +13,16 @@ namespace tocca::platform::linux {
 
 class ContentWindow;
 
-/// The program's own windows that people type into, and what they have in common.
+/// The program's windows that can have the keyboard, and what they share.
 ///
 /// Threads: main.
 class OwnWindows {
 public:
-    /// A key that no window had a use for; true when it is dealt with.
+    /// Handles a key that no window had a use for; false when it has none either.
     using KeyHandler = std::function<bool(const QKeyEvent&)>;
     using Observer = std::function<void(ContentWindow&)>;
 
-    /// `listener` is shown every event that the windows receive, as an event filter of theirs; null for none.
+    /// Installs `listener` as an event filter in every window made from now on; null for none.
     /// Lifetime: outlives the windows.
     void setListener(QObject* listener) noexcept { listener_ = listener; }
 
@@ -38,7 +38,7 @@ public:
 
     [[nodiscard]] bool handleKey(const QKeyEvent& event) const { return keyHandler_ && keyHandler_(event); }
 
-    /// Whether a dialog that belongs to one of the windows is open: the focus is away, and yet not.
+    /// Whether a dialog that belongs to one of the windows is open, which takes the focus without the person having left.
     [[nodiscard]] bool hasDialog() const noexcept { return hasDialog_; }
 
     void setDialog(bool isOpen) noexcept { hasDialog_ = isOpen; }

@@ -88,7 +88,7 @@ void PopoverWindow::focusMoved()
     sinceFocusWasLost_.start();
     pointerAtFocusLoss_ = QCursor::pos();
     if (isButtonDown()) {
-        // Who takes a folder from another window to drop it here takes the focus with it: only the release tells.
+        // Dragging a folder here from another window takes the focus as well; only the release of the button tells which it was.
         waitForRelease_.start();
     } else {
         closeForFocusLoss();
@@ -116,7 +116,7 @@ bool PopoverWindow::handleKey(const QKeyEvent& event)
 void PopoverWindow::dragEnded()
 {
     if (isVisible() && !isActive()) {
-        bringToFront(*this); // from here the next click elsewhere closes it again
+        bringToFront(*this); // with the focus, so that the next click elsewhere closes it
     }
 }
 

@@ -14,18 +14,19 @@ namespace tocca::platform::linux {
 /// Where a popover of `size` lies: below or above `anchor`, whichever side has the room, and inside `area`.
 [[nodiscard]] QPoint popoverPlace(const QRect& anchor, const QSize& size, const QRect& area);
 
-/// The window of a popover: it goes away with the focus, unless the person is on the way back to it.
+/// The window of a popover. It closes when it loses the focus, but not while a dialog of it is open or something is dragged to it.
 class PopoverWindow final : public ContentWindow {
 public:
     explicit PopoverWindow(OwnWindows& family);
 
-    /// Shows the window at `anchor`. A click on what opened it takes the focus away first: the same click does not open it again.
+    /// Shows the window at `anchor`. A click on the icon closes an open popover by taking its focus away; the same click does not open it
+    /// again.
     void showAt(const QRect& anchor);
 
 private:
     void focusMoved();
 
-    /// Closes the window, unless the person has it again or has brought something that is about to be dropped on it.
+    /// Closes the window, unless it has the focus again, something is held over it to be dropped, or a dialog is open.
     void closeForFocusLoss();
 
     void closeRequested() override { hide(); }
@@ -36,7 +37,7 @@ private:
     OwnWindows& family_;
     QTimer waitForRelease_;
     bool hasHadFocus_ = false;        // since it was shown
-    QElapsedTimer sinceFocusWasLost_; // invalid unless that closed it
+    QElapsedTimer sinceFocusWasLost_; // valid while a lost focus is why the window is closed
     QPoint pointerAtFocusLoss_;
 };
 

@@ -9,7 +9,7 @@ class QQuickItem;
 
 namespace tocca::platform::linux {
 
-/// Content that is made when its window is first shown, so that nothing is loaded for what nobody opens.
+/// A view that makes its QML item when its window is first shown, so that nothing is loaded for what nobody opens.
 ///
 /// Threads: main.
 /// Lifetime: the window owns the item.

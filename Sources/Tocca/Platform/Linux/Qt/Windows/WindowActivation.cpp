@@ -13,7 +13,7 @@ void bringToFront(QWindow& window)
     if (auto desktop = XDesktop::requests()) {
         const auto id = static_cast<xcb_window_t>(window.winId());
         desktop->bringToCurrentDesktop(id);
-        // The toolkit asks with the time of the last key or click in its own windows, which window managers take for an old wish.
+        // Qt asks with the time of the last key or click in its own windows; window managers take that for an outdated request.
         desktop->activate(id);
     }
 }

@@ -4,8 +4,8 @@ class QWindow;
 
 namespace tocca::platform::linux {
 
-/// Brings a window that is shown to the front, on the desktop that the person is on, with the keyboard.
-/// Threads: main. Errors: none; a desktop may keep what the person types into where it is.
+/// Brings a visible window to the front of the current desktop and gives it the keyboard.
+/// Threads: main. Errors: none; a desktop may refuse to move the keyboard.
 void bringToFront(QWindow& window);
 
 } // namespace tocca::platform::linux
