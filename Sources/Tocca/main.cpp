@@ -21,7 +21,7 @@ namespace {
 
 using namespace tocca;
 
-/// The parts of the desktop that this build runs on, in the order in which they need each other.
+/// The Linux desktop with Tocca's own player, in the order in which the parts need each other.
 struct Desktop {
     platform::linux::LinuxHost system;
     player::Mixer mixer{system.clock()};
@@ -52,13 +52,13 @@ int main(int /*argc*/, char** argv)
 {
     setThreadRole(ThreadRole::Main);
     platform::linux::LinuxStandardOutput::reserveDescriptors();
-    platform::linux::TerminationSignals signals; // before the toolkit starts a thread that would take them
+    platform::linux::TerminationSignals signals; // before Qt starts a thread that would receive them
     platform::linux::chooseDisplay();
-    int nameAlone = 1; // the program takes no options, not even the toolkit's
+    int nameAlone = 1; // the program takes no options, not even Qt's
     const QGuiApplication application(nameAlone, argv);
     signals.attach();
     platform::linux::chooseRenderer();
-    // What lives as long as the process: the controllers, what they stand on and what shows them.
+    // Never deleted: the controllers, what they stand on and what shows them live as long as the process.
     auto& desktop = *new Desktop;
     platform::setDefaultHost(desktop.host);
     if (!desktop.system.application().isFirstInstance()) {

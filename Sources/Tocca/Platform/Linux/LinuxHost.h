@@ -37,7 +37,7 @@
 
 namespace tocca::platform::linux {
 
-/// A Linux desktop: every service of the platform but the audio players, which are handed in.
+/// The Linux desktop: every service of the platform except the audio players, which are handed in.
 ///
 /// Threads: main.
 /// Lifetime: begins after the application object and outlives everything that uses the host.
@@ -54,10 +54,10 @@ public:
 
     [[nodiscard]] LinuxStandardOutput& standardOutput() noexcept { return standardOutput_; }
 
-    /// The program itself, which can be asked whether the session has another instance before anything is started.
+    /// The program itself; it tells, before anything is started, whether the session has another instance.
     [[nodiscard]] LinuxApplication& application() noexcept { return application_; }
 
-    /// Passes a thread that the kernel refused on to RealtimeKit, by way of the main thread.
+    /// An appeal to RealtimeKit, made on the main thread.
     [[nodiscard]] SchedulingAppeal appeal();
 
 private:

@@ -7,11 +7,11 @@
 
 namespace tocca::platform::linux {
 
-/// Makes up cycles for a server that only says how many frames it wants.
+/// Works out render cycles for a sound server that says how many frames it wants, but not when they will be heard.
 ///
-/// Blocks are laid end to end at the nominal rate and drawn gently towards the times at which they were really asked for, so
-/// that the scheduling of single requests does not shift strokes. The quantum is the largest block of late, which keeps
-/// the latency constant while sizes alternate. After a pause both start afresh.
+/// Blocks follow one another at the nominal rate, corrected slowly towards the times at which they were really asked for: a single request
+/// that comes late shifts no stroke. The quantum is the largest block of late, so that the latency stays constant while sizes alternate.
+/// After a pause both start afresh.
 /// Threads: one at a time. Real-time: wait-free.
 class BlockClock {
 public:

@@ -8,7 +8,7 @@ struct spa_source;
 
 namespace tocca::platform::linux {
 
-/// A thread on which sound servers are looked for, connected to and watched.
+/// The control thread: looks for sound servers, connects to them and watches them.
 ///
 /// Threads: `ControlLoop` itself: main. What runs on it (events, timers, watches): control, unless said otherwise.
 /// Lifetime: outlives every event, timer and watch made on it; those end on the control thread or after `stop`.

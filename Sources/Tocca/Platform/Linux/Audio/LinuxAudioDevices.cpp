@@ -52,7 +52,7 @@ void LinuxAudioDevices::begin()
 void LinuxAudioDevices::settle()
 {
     if (ofPipeWire_ && ofPipeWire_->hasAny) {
-        // What speaks PulseAudio's protocol beside it is PipeWire itself.
+        // Whoever speaks PulseAudio's protocol now is PipeWire itself.
         pulse_.reset();
         ofPulse_.reset();
     } else if (!pulse_) {

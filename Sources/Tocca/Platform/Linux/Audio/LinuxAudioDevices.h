@@ -16,9 +16,9 @@ struct LinuxAudioDevicesOptions {
     bool usesPipeWire = true; ///< false: PulseAudio's protocol alone
 };
 
-/// The microphones of the desktop: PipeWire's where it has devices, else also PulseAudio's.
+/// The microphones of the desktop: PipeWire's, and PulseAudio's as well while PipeWire has no devices.
 ///
-/// A thread of its own hears the servers' events; while nothing changes it sleeps.
+/// A thread of its own waits for the servers' events and sleeps while nothing changes.
 /// Threads: main.
 class LinuxAudioDevices final : public AudioDevices {
 public:

@@ -23,10 +23,10 @@ struct LinuxAudioOutputOptions {
     SchedulingAppeal appeal = {}; ///< for the thread that wakes a released output
 };
 
-/// What an output is doing.
+/// What the output is doing.
 struct AudioOutputState {
     SoundServer server = SoundServer::None;
-    bool isAwake = false;           ///< asked for blocks, unless `server` is `None`
+    bool isAwake = false;           ///< not released for want of activity
     double sampleRate = 0.0;        ///< Hz
     int quantum = 0;                ///< frames of the last cycle
     std::uint64_t cycles = 0;       ///< rendered so far
@@ -36,9 +36,9 @@ struct AudioOutputState {
 
 /// The sound output of the desktop: PipeWire where it has a sink, else PulseAudio, else silence until one of them appears.
 ///
-/// Without activity for some time it is released, which costs nothing, and the next activity wakes it within milliseconds.
-/// Nothing to play to is said once, on standard output.
-/// Threads: main, unless said otherwise. No member waits for a server, but the destructor for one that is closing.
+/// Without activity for some time it is released and costs nothing; the next activity wakes it within milliseconds.
+/// When there is nothing to play to, it says so once on standard output.
+/// Threads: main, unless said otherwise. No member waits for a server, except the destructor for a connection that is closing.
 class LinuxAudioOutput final : public player::AudioOutput {
 public:
     explicit LinuxAudioOutput(StandardOutput& standardOutput, LinuxAudioOutputOptions options = {});

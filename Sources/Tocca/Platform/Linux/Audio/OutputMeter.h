@@ -9,24 +9,23 @@
 
 namespace tocca::platform::linux {
 
-/// Calls the render source for a sound server and keeps count of what happened.
+/// Lets a sound server render, and counts cycles and drop-outs: the watchdog and the choice of the quantum go by these numbers.
 ///
 /// Threads: what renders and counts: render. Everything else: any.
 /// Real-time: every member is wait-free.
 class OutputMeter {
 public:
-    /// Renders one block with the thread's role set, whichever thread of the server's library it is.
+    /// Renders one block, with the calling thread marked as the render thread meanwhile.
     void render(player::RenderSource& source, std::span<float> frames,
                 const player::RenderCycle& cycle) noexcept REALTIME;
 
-    /// Compares the server's `position` at the beginning of this cycle with where the last one ended, and counts the cycles
-    /// in between as missed. Units: frames of the server's clock. Threads: render.
+    /// Counts the cycles between the end of the last one and `position`, where this one begins, as missed. Units: frames of the server's clock. Threads: render.
     void countCycle(std::uint64_t position, std::uint64_t duration) noexcept REALTIME;
 
     /// Counts one drop-out that the server itself has reported.
     void countDropOut() noexcept REALTIME;
 
-    /// Makes the next cycle the first of a new series: what lies before it was not missed.
+    /// Begins a new series: nothing before the next cycle counts as missed.
     void restart() noexcept { restarts_.store(true, std::memory_order_relaxed); }
 
     void setSampleRate(double sampleRate) noexcept
@@ -40,7 +39,7 @@ public:
 
     [[nodiscard]] std::uint64_t cycles() const noexcept { return cycles_.load(std::memory_order_relaxed); }
 
-    /// How often sound was interrupted, however long each time.
+    /// How often the sound was interrupted, each time counting once.
     [[nodiscard]] std::uint64_t dropOuts() const noexcept
     {
         return dropOuts_.load(std::memory_order_relaxed);

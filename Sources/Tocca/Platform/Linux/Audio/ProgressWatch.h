@@ -7,16 +7,16 @@ namespace tocca::platform::linux {
 
 /// Notices a server that has stopped asking for sound.
 ///
-/// Its patience begins with two seconds and doubles each time up to half a minute, for a connection that is only made again and again
-/// is never heard; the next progress sets it back.
+/// It waits two seconds at first and twice as long each time after, up to half a minute, so that a slow server is not asked anew before it
+/// can answer. The next cycle makes it two seconds again.
 /// Units: seconds of one clock; cycles as a running total.
 /// Threads: one at a time.
 class ProgressWatch {
 public:
-    /// Begins to wait anew, as after a start.
+    /// Starts waiting anew.
     void restart(double now) noexcept { lastProgress_ = now; }
 
-    /// Whether there has been no cycle for longer than the patience lasts.
+    /// Whether there has been no cycle for that long.
     [[nodiscard]] bool hasStalled(std::uint64_t cycles, double now) noexcept
     {
         if (cycles != lastCycles_) {

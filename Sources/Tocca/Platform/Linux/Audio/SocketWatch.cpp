@@ -24,7 +24,7 @@ std::string runtimeDirectory()
     return directory != nullptr ? directory : "";
 }
 
-/// Whether a server listens at what is called `name`; other programs put much else there.
+/// Whether `name` is that of a sound server's socket; other programs put theirs there too.
 bool isOfServer(std::string_view name)
 {
     return name.starts_with("pipewire-") || name == "pulse" || name == "native";
@@ -60,7 +60,7 @@ void SocketWatch::drain()
         }
     }
     if (isServer) {
-        // PulseAudio listens in a directory of its own, which may have appeared just now.
+        // PulseAudio's socket is in a directory of its own, which may have appeared just now.
         watchServerDirectory();
         call_();
     }

@@ -7,8 +7,7 @@
 
 namespace tocca::platform::linux {
 
-/// Calls when a sound server may have begun to listen: when the socket of one
-/// appears in the session's runtime directory.
+/// Watches for the sockets of sound servers in the session's runtime directory, and calls when one appears.
 ///
 /// Threads: control. Errors: without a runtime directory, or where it cannot be watched, it never calls.
 class SocketWatch {

@@ -6,7 +6,7 @@
 
 namespace tocca::platform::linux {
 
-/// Owns a file descriptor and closes it. Threads: any, one at a time.
+/// A file descriptor that is closed with its owner. Threads: any, one at a time.
 class FileDescriptor {
 public:
     FileDescriptor() noexcept = default;

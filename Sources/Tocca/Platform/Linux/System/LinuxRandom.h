@@ -7,7 +7,7 @@
 
 namespace tocca::platform::linux {
 
-/// The kernel's generator, asked for 256 bytes at a time.
+/// Random numbers of the kernel, fetched 256 bytes at a time.
 class LinuxRandom : public Random {
 public:
     [[nodiscard]] std::uint64_t next() override;

@@ -7,16 +7,16 @@
 
 namespace tocca::platform::linux {
 
-/// File descriptor 1, one `write` a line.
+/// The standard output, one `write` per line.
 ///
-/// Errors: a line is lost when nobody reads the output or its reader lags behind by a full pipe; the program never waits.
+/// Errors: the program never waits; a line is lost when nobody reads the output, or when its reader lags behind by a full pipe.
 class LinuxStandardOutput : public StandardOutput {
 public:
-    /// Ignores SIGPIPE for the whole process, so that a reader that goes away does not take the program with it.
+    /// Ignores SIGPIPE in the whole process, so that a reader that goes away does not end the program.
     explicit LinuxStandardOutput(int descriptor = 1);
 
-    /// Opens the null device for those of the three standard descriptors that are closed; otherwise the next file or socket
-    /// opened would get their numbers, and the lines printed. Threads: main, before anything else is opened.
+    /// Opens the null device in place of any of the three standard descriptors that is closed. Otherwise the next file or socket would get
+    /// its number, and with it the printed lines. Threads: main. Order: before anything else is opened.
     static void reserveDescriptors() noexcept;
 
     void printLine(std::string_view line) override;

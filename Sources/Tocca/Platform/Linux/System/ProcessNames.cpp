@@ -19,7 +19,7 @@ namespace {
 constexpr std::string_view kFlatpakUnit = "app-flatpak-";
 constexpr std::string_view kSnapUnit = "snap.";
 
-/// The beginning of one of the kernel's files about a process.
+/// The first 4,096 bytes of one of the kernel's files about a process.
 std::string readAbout(std::uint32_t process, const char* name)
 {
     const std::string path = "/proc/" + std::to_string(process) + '/' + name;

@@ -14,7 +14,7 @@ ActivityGate::ActivityGate(double idleSeconds, std::function<void()> wake)
 
 void ActivityGate::note() noexcept
 {
-    // Sequentially consistent on both sides: either this thread sees the gate closed, or the closing one sees the stroke.
+    // Sequentially consistent on both sides: either this thread sees the gate closed, or the closing thread sees the stroke.
     lastActivity_.store(monotonicSeconds());
     if (!isOpen_.load() && !isWaking_.exchange(true)) {
         wake_();

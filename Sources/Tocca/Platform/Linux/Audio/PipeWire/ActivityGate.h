@@ -5,9 +5,9 @@
 
 namespace tocca::platform::linux {
 
-/// Decides from the strokes' own times when an output is worth keeping awake.
+/// Decides, from when the last stroke was, whether the output is kept awake (the gate is open) or released (closed).
 ///
-/// The gate begins open. The last stroke and the closing may happen at once: then the gate reopens.
+/// The gate begins open. A stroke that comes while it closes opens it again.
 /// Units: seconds of the monotonic clock.
 class ActivityGate {
 public:

@@ -12,17 +12,17 @@
 
 namespace tocca::platform::linux {
 
-/// What a node of PipeWire's graph is, as far as recording goes.
+/// What part a node of PipeWire's graph plays in recording.
 enum class NodeKind {
     Microphone, ///< sound comes from it: a device, or what other programs offer as one
-    Playback,   ///< a loudspeaker, or a program that plays; to record it is to record no microphone
+    Playback,   ///< a loudspeaker, or a program that plays: recording it records no microphone
     Recorder,   ///< a program's recording stream
     Other,
 };
 
 [[nodiscard]] NodeKind kindOfNode(std::string_view mediaClass);
 
-/// Works out from PipeWire's objects which microphones are recorded from. Objects are known by the registry's numbers.
+/// The nodes and links of PipeWire, by the registry's numbers: works out which microphones are recorded from.
 /// Threads: one at a time.
 class CaptureGraph {
 public:
@@ -34,8 +34,7 @@ public:
     /// What a recorder's own properties tell.
     struct RecorderTraits {
         std::uint32_t client = 0;
-        bool isBystander =
-            false; ///< a meter, a monitor or half of an effect: it listens, but records for nobody
+        bool isBystander = false; ///< a meter, a monitor or half of an effect: it listens without recording
     };
 
     void addNode(std::uint32_t id, NodeKind kind, std::string name);
@@ -60,7 +59,7 @@ private:
         NodeKind kind = NodeKind::Other;
         std::string name;
         bool isRunning = false;
-        std::optional<RecorderTraits> traits; // nothing is known of a recorder until it has told
+        std::optional<RecorderTraits> traits; // from when the recorder has told
     };
 
     [[nodiscard]] bool counts(const Node& node) const;

@@ -12,12 +12,12 @@ struct spa_dict;
 
 namespace tocca::platform::linux {
 
-/// A connection to PipeWire that tells what the server has, made as often as it is lost.
+/// A connection to PipeWire that tells which objects the server has, and can be made again after a loss.
 ///
 /// Threads: control.
 class PipeWireConnection {
 public:
-    /// What is told from inside the connection's own events, where it must not be taken down.
+    /// Called from inside the connection's own events, which must not end the connection.
     struct Observer {
         std::function<void()> lost;
         std::function<void()> enumerated; ///< everything that was there at first has appeared
@@ -25,7 +25,7 @@ public:
         std::function<void(std::uint32_t id)> vanished;
     };
 
-    /// `makeContext` is called once, by the first `connect`; the context is this object's from then on.
+    /// `makeContext` is called once, by the first `connect`; the context then belongs to this object.
     PipeWireConnection(std::function<pw_context*()> makeContext, Observer observer);
     ~PipeWireConnection();
     PipeWireConnection(const PipeWireConnection&) = delete;
@@ -36,7 +36,7 @@ public:
 
     void disconnect();
 
-    /// Null while there is no connection, as is the registry.
+    /// Both are null while there is no connection.
     [[nodiscard]] pw_core* core() const noexcept;
     [[nodiscard]] pw_registry* registry() const noexcept;
 

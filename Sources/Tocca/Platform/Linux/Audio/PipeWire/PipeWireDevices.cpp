@@ -46,13 +46,14 @@ bool isBystander(const spa_dict* properties)
            isTrue(properties, "resample.peaks") || passive == "true" || passive.starts_with("in") ||
            !textOf(properties, PW_KEY_NODE_LINK_GROUP).empty() ||
            textOf(properties, PW_KEY_MEDIA_CATEGORY) == "Monitor" ||
-           isOwnProcess(properties,
-                        PW_KEY_APP_PROCESS_ID); // by way of pipewire-pulse, whose client it then is
+           isOwnProcess(
+               properties,
+               PW_KEY_APP_PROCESS_ID); // a stream of ours through pipewire-pulse is that program's client
 }
 
 } // namespace
 
-/// A recording stream that is asked to tell about itself for as long as this lives.
+/// Listens to what a recording stream tells about itself.
 class PipeWireDevices::Recorder {
 public:
     Recorder(PipeWireDevices& owner, pw_registry* registry, std::uint32_t id)
@@ -166,7 +167,7 @@ void PipeWireDevices::describe(std::uint32_t id, const pw_node_info& info)
     if ((info.change_mask & PW_NODE_CHANGE_MASK_STATE) != 0) {
         graph_.setRunning(id, info.state == PW_NODE_STATE_RUNNING);
     }
-    // Properties that have not changed are there all the same, but empty.
+    // Without this mark the properties are there, but empty.
     if ((info.change_mask & PW_NODE_CHANGE_MASK_PROPS) != 0) {
         graph_.setTraits(
             id, {.client = numberOf(info.props, PW_KEY_CLIENT_ID), .isBystander = isBystander(info.props)});

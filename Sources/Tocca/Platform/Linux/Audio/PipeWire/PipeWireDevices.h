@@ -15,9 +15,9 @@ namespace tocca::platform::linux {
 
 /// The microphones of PipeWire, from its registry and from what each recording stream tells about itself.
 ///
-/// A stream counts while it runs, unless it records what is played, or is a bystander: a monitor (`stream.monitor`,
-/// `media.category` Monitor), a level meter (`resample.peaks`), passive (`node.passive`: it never keeps a device running), or one
-/// end of a loopback or filter (`node.link-group`), whose other end counts itself once somebody records from it.
+/// A recording stream counts while it runs, unless it records what is played or only listens. What only listens is a monitor
+/// (`stream.monitor`, `media.category` Monitor), a level meter (`resample.peaks`), a passive stream, which never keeps a device running
+/// (`node.passive`), or one end of a loopback or filter (`node.link-group`): the other end counts once somebody records from it.
 class PipeWireDevices final : public DeviceServer {
 public:
     PipeWireDevices(ControlLoop& loop, Observer observer);

@@ -10,10 +10,10 @@
 
 namespace tocca::platform::linux {
 
-/// Plays through PipeWire.
+/// The output through PipeWire.
 ///
-/// It is `Ready` while the server's registry shows a sink. A stream that stays without cycles for two seconds although it is
-/// awake counts as lost, like a connection that reports an error: both are taken down and made again.
+/// It is `Ready` while the server's registry shows a sink. A stream that is awake and yet without cycles (`ProgressWatch`) counts as lost,
+/// like a connection that reports an error: both are made again.
 class PipeWireOutput final : public ServerOutput {
 public:
     PipeWireOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter, Observer observer);

@@ -11,7 +11,7 @@ struct pw_core;
 
 namespace tocca::platform::linux {
 
-/// One playback stream of a PipeWire connection: asks the source for every cycle, in PipeWire's real-time thread.
+/// A playback stream of a PipeWire connection: it asks the source for every cycle, in PipeWire's real-time thread.
 ///
 /// Threads: control, but for the rendering itself.
 /// Lifetime: ends before its connection; destruction ends the last call of the source before it returns.
@@ -24,7 +24,7 @@ public:
     PipeWireStream(const PipeWireStream&) = delete;
     PipeWireStream& operator=(const PipeWireStream&) = delete;
 
-    /// Connects to the sink that the session prefers and follows it. False when that cannot even be asked for.
+    /// Connects to the sink that the session prefers, and follows that choice. False when the request cannot even be made.
     [[nodiscard]] bool connect(int quantum, bool isAwake);
 
     void setAwake(bool isAwake);
@@ -32,7 +32,7 @@ public:
     /// Asks the server for cycles of `quantum` frames, without interrupting the sound.
     void requestQuantum(int quantum);
 
-    /// Whether the graph runs at another rate than the stream was made for, so that every block is resampled.
+    /// Whether the graph runs at another rate than the stream, so that PipeWire resamples every block.
     [[nodiscard]] bool isResampled() const noexcept;
 
     /// The graph's rate in Hz, 0 before the first cycle.

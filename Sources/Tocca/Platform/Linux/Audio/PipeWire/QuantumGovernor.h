@@ -6,11 +6,10 @@
 
 namespace tocca::platform::linux {
 
-/// Chooses how many frames at a time to ask a sound server for: as few as the machine can keep up with.
+/// Chooses how many frames at a time to ask a sound server for: as few as the computer can keep up with.
 ///
-/// Starts at the smallest size and doubles after more than two drop-outs within ten seconds. It comes back down one size
-/// only while nothing sounds and after ten minutes without a drop-out; a size that failed after such a return is not
-/// tried again, so it never flaps.
+/// It starts at the smallest size and doubles it after more than two drop-outs within ten seconds. It halves the size only while nothing
+/// sounds, after ten minutes without a drop-out. A size that fails soon after such a return is never tried again.
 /// Units: frames; seconds of one clock; drop-outs as a running total.
 /// Threads: one at a time.
 class QuantumGovernor {
@@ -19,13 +18,13 @@ public:
 
     [[nodiscard]] int quantum() const noexcept { return quantum_; }
 
-    /// Looks at the total of drop-outs so far; true when `quantum` has grown.
+    /// Takes note of the total of drop-outs so far; true when `quantum` has grown.
     bool observe(std::uint64_t dropOuts, double now) noexcept;
 
-    /// Tells of a start, so that drop-outs in the next second say nothing about the size; a change of size does the same.
+    /// Ignores drop-outs in the next second, as after a start; a change of size does so too.
     void disturb(double now) noexcept { ignoredUntil_ = now + kSettling; }
 
-    /// Tells that nothing sounds; true when `quantum` has shrunk.
+    /// Takes note that nothing sounds; true when `quantum` has shrunk.
     bool rest(double now) noexcept;
 
 private:

@@ -18,8 +18,8 @@ namespace tocca::platform::linux {
 
 /// The microphones of PulseAudio, or of whatever speaks its protocol.
 ///
-/// A source runs while a program records from it: a source output that is not corked, meters no peaks, and belongs to a client
-/// rather than to the server's own loopbacks and effects. Monitors of sinks are no sources here.
+/// A source runs while a program records from it. That is a source output which is not corked, is no level meter, and belongs to a client
+/// and not to the server's own loopbacks and effects. Monitors of sinks do not count as sources.
 class PulseDevices final : public DeviceServer {
 public:
     PulseDevices(ControlLoop& loop, Observer observer);
@@ -43,15 +43,15 @@ private:
     ControlEvent news_;
     pa_context* context_ = nullptr;
 
-    std::map<std::uint32_t, std::string> sources_; // client library's thread, as are the next three
+    std::map<std::uint32_t, std::string> sources_; // this and the next three: client library's thread
     std::set<std::uint32_t> recorded_;
     bool isAsking_ = false;
-    bool isStale_ = false; // something has changed since the question
+    bool isStale_ = false; // something has changed since the question was asked
 
     std::mutex mutex_;
     std::optional<Devices> found_; // client library's thread -> control, under mutex_
 
-    PulseLoop loop_; // the last, as its thread uses what stands above
+    PulseLoop loop_; // last, because its thread uses the members above
 };
 
 } // namespace tocca::platform::linux

@@ -9,7 +9,7 @@ namespace tocca::platform::linux {
 
 /// The thread on which PulseAudio's client library works.
 ///
-/// Threads: control, but for `Lock`.
+/// Threads: control, except for `Lock`.
 class PulseLoop {
 public:
     /// Holds that thread off for a scope. Threads: any but the loop's own.
@@ -38,10 +38,10 @@ private:
     pa_threaded_mainloop* const loop_;
 };
 
-/// Lets an operation of the client library end by itself; null is one that could not begin.
+/// Lets an operation of the client library end by itself. Null stands for one that could not begin.
 void forget(pa_operation* operation);
 
-/// Ends a connection without another word from it, and makes `context` null, which it may be already. Threads: under the loop's lock.
+/// Ends a connection without any further callback and makes `context` null, which it may be already. Threads: under the loop's lock.
 void endConnection(pa_context*& context);
 
 } // namespace tocca::platform::linux

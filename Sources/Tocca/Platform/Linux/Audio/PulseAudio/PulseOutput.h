@@ -14,9 +14,9 @@ struct pa_stream;
 
 namespace tocca::platform::linux {
 
-/// Plays through PulseAudio, or whatever speaks its protocol.
+/// The output through PulseAudio, or whatever speaks its protocol.
 ///
-/// It renders on the client library's own thread, which has no real-time scheduling and buffers more than PipeWire does.
+/// It renders on the client library's thread, which has no real-time scheduling; so blocks are larger than PipeWire's.
 class PulseOutput final : public ServerOutput {
 public:
     PulseOutput(ControlLoop& loop, player::RenderSource& source, OutputMeter& meter, Observer observer);
@@ -43,7 +43,7 @@ private:
     pa_stream* stream_ = nullptr;
     int countedSinks_ = 0;                                    // client library's thread
     std::atomic<Availability> server_{Availability::Unknown}; // client library's thread -> control
-    PulseLoop loop_; // the last, as its thread uses what stands above
+    PulseLoop loop_; // last, because its thread uses the members above
 };
 
 } // namespace tocca::platform::linux

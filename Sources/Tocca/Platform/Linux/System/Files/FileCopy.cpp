@@ -18,10 +18,10 @@ namespace tocca::platform::linux {
 namespace {
 
 constexpr std::size_t kChunk = std::size_t{128} * 1024;
-constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO; // without set-user-ID and its like
+constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO; // without set-user-ID and the like
 constexpr mode_t kOwnerMay = S_IRUSR | S_IWUSR;
 
-/// Copies until the end of `from`; an error names the side it arose on.
+/// Copies until the end of `from`; an error names the file in which it arose.
 Outcome copyBytes(const FileDescriptor& from, const std::filesystem::path& fromPath, const FileDescriptor& to,
                   const std::filesystem::path& toPath)
 {

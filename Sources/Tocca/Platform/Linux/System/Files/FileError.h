@@ -7,7 +7,7 @@
 
 namespace tocca::platform::linux {
 
-/// How a failure is told to people: the path's last component and the reason.
+/// A failure as it is told to people: the last component of the path, and the reason.
 [[nodiscard]] Error fileError(const std::filesystem::path& path, const std::string& reason);
 
 /// The same with the system's text for an error number.

@@ -7,11 +7,11 @@
 
 namespace tocca::platform::linux {
 
-/// Puts a file with these bytes in the place of `path`, in one step and on the disk when this returns.
+/// Puts a file with these bytes in the place of `path`, in one step; it is on the disk when this returns.
 ///
-/// Its directory must exist; a link there is replaced, not followed.
+/// The directory must exist. A link at `path` is replaced, not followed.
 /// Threads: any, one at a time for one path.
-/// Errors: the file's name and the system's reason; what was there is as it was.
+/// Errors: the file's name and the system's reason; what was there stays.
 Outcome replaceFile(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace tocca::platform::linux

@@ -6,7 +6,7 @@
 
 namespace tocca::platform::linux {
 
-/// Directories as a build tree, an installation and the XDG base directory rules place them.
+/// The directories of a build tree or an installation, and those of the XDG base directory rules.
 class LinuxDirectories : public Directories {
 public:
     LinuxDirectories();
@@ -26,11 +26,11 @@ private:
     std::filesystem::path programDirectory_;
 };
 
-/// Where the user's programs keep what is worth little; nothing when the system does not even name the user's home. Threads: any.
+/// Where the user's programs keep their state; nothing when the system names no home directory. Threads: any.
 [[nodiscard]] std::optional<std::filesystem::path> stateDirectory();
 
-/// Where the desktop looks for what starts with the session, the user's own directory first; none when the system does not
-/// even name the user's home. Threads: any.
+/// Where the desktop looks for what starts with the session, the user's own directory first; none when the system names no home
+/// directory. Threads: any.
 [[nodiscard]] std::vector<std::filesystem::path> autostartDirectories();
 
 /// Where the desktop looks for installed programs, the user's own directory first. Threads: any.

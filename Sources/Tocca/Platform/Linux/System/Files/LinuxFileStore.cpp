@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// How a file system that lacks a kind of renaming says so.
+/// Whether an error says that the file system lacks an operation.
 bool isUnsupported(int number)
 {
     return number == EINVAL || number == ENOSYS || number == EOPNOTSUPP;
@@ -53,7 +53,7 @@ Outcome copyDirectory(const fs::path& to, mode_t mode)
     return std::monostate{};
 }
 
-/// Lets the owner empty every directory below `path`, which may have been made so that nobody can.
+/// Gives the owner every right to the directories below `path`, so that they can be emptied.
 void unprotect(const fs::path& path)
 {
     std::error_code error;
@@ -128,7 +128,7 @@ Outcome LinuxFileStore::move(const fs::path& from, const fs::path& to)
     if (!isUnsupported(errno)) {
         return fileError(errno == EEXIST ? to : from, errno);
     }
-    // Without the flag there is a moment in which somebody else could put something there; nobody but us does.
+    // Without the flag another program could put something there in between; only this program uses these directories.
     const auto target = this->status(to);
     if (!target) {
         return target.error();

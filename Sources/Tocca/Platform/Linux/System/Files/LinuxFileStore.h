@@ -4,7 +4,7 @@
 
 namespace tocca::platform::linux {
 
-/// Files of the operating system, changed so that a crash at any moment leaves each step done or not begun.
+/// Changes to the operating system's files. A crash at any moment leaves each step either done or not begun.
 class LinuxFileStore : public FileStore {
 public:
     [[nodiscard]] Result<FileStatus> status(const std::filesystem::path& path) const override;

@@ -28,8 +28,8 @@ FileDescriptor openWithoutWaiting(const std::filesystem::path& path)
     return FileDescriptor(retried([&] { return ::open(path.c_str(), kFlags); }));
 }
 
-/// Reads until the end or until one byte more than `limit`, whatever size the file claimed to have: it may be growing.
-/// Returns an error number, 0 for none.
+/// Reads until the end, whatever size the file claimed to have: it may be growing. Errors: an error number, `EFBIG` for more than `limit`
+/// bytes; 0 for none.
 int readUpTo(int descriptor, std::size_t expected, std::size_t limit, std::vector<std::byte>& bytes)
 {
     bytes.resize(expected + 1); // the extra byte finds the end without another round of growing

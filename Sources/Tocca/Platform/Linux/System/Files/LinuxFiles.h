@@ -4,7 +4,7 @@
 
 namespace tocca::platform::linux {
 
-/// Files of the operating system; nothing that could wait for another program is ever read.
+/// Reads the operating system's files, but none that could wait for another program.
 class LinuxFiles : public Files {
 public:
     [[nodiscard]] bool exists(const std::filesystem::path& path) const override;

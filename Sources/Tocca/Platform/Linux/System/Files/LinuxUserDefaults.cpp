@@ -43,7 +43,7 @@ void LinuxUserDefaults::setBool(std::string_view key, bool value)
     writer_->post([file = *file_, text = std::move(text)] {
         std::error_code error;
         std::filesystem::create_directories(file.parent_path(), error);
-        static_cast<void>(replaceFile(file, text)); // what cannot be kept is lost
+        static_cast<void>(replaceFile(file, text)); // a value that cannot be kept is lost
     });
 }
 

@@ -11,9 +11,9 @@
 
 namespace tocca::platform::linux {
 
-/// A file of `key=true` lines, sorted, with everything that was set since the program started.
+/// User defaults in a file: a sorted `key=true` or `key=false` line for everything set since the program started.
 ///
-/// It is written by a thread of its own, in one step; nothing ever reads it back.
+/// A thread of its own writes the file, in one step. Nothing reads it back.
 class LinuxUserDefaults : public UserDefaults {
 public:
     /// `tocca/defaults` in the user's state directory.

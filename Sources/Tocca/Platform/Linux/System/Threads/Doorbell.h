@@ -5,7 +5,7 @@
 
 namespace tocca::platform::linux {
 
-/// Lets one thread sleep until another has something for it; ringing costs a system call only while it sleeps.
+/// Lets one thread sleep until another rings. Ringing costs a system call only while that thread sleeps.
 ///
 /// Threads: `ring`: any. `sleepUnless`: the one thread that sleeps.
 /// Real-time: `ring` never allocates, locks or waits.
@@ -18,12 +18,11 @@ public:
         }
     }
 
-    /// Sleeps until the next ring, unless `hasWork` finds that there is something to do already.
+    /// Sleeps until the next ring, unless `hasWork` says that there is something to do already.
     template <class HasWork>
     void sleepUnless(HasWork hasWork) noexcept
     {
-        // The exchanges on both sides order the work before the ring: either this thread sees the work, or the other one
-        // sees that this thread is about to sleep.
+        // Because both sides exchange, no work is overlooked: either this thread sees it, or the ringing thread sees this one asleep.
         state_.exchange(kAsleep, std::memory_order_acq_rel);
         if (!hasWork()) {
             state_.wait(kAsleep, std::memory_order_acquire);

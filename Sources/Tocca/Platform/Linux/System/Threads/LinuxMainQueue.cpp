@@ -38,8 +38,7 @@ void LinuxMainQueue::postAfter(double seconds, Task task)
 
 void LinuxMainQueue::runReady()
 {
-    // The descriptor stays readable until the queue is empty: a task that waits in a loop of its own is interrupted by the
-    // tasks behind it.
+    // The descriptor stays readable until the queue is empty, so that an event loop nested in a task runs the tasks behind it.
     for (int count = 0; count < kMostPerTurn; ++count) {
         Task task;
         if (!take(task)) {
@@ -48,7 +47,7 @@ void LinuxMainQueue::runReady()
             if (!take(task)) {
                 return;
             }
-            ring(); // posted in between, by somebody who saw the bell rung
+            ring(); // a task was posted in between, by a thread that found the bell rung and left it so
         }
         task();
     }

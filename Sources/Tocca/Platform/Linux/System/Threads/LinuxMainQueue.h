@@ -11,9 +11,9 @@
 
 namespace tocca::platform::linux {
 
-/// The main queue, served by whatever waits on the main thread: it calls `runReady` when `fd` is readable.
+/// The main queue. The main thread's event loop serves it: it calls `runReady` whenever `fd` is readable.
 ///
-/// Order: a wait nested in a task goes on with the tasks behind it.
+/// Order: an event loop nested in a task goes on with the tasks behind it.
 /// Lifetime: outlives every thread that posts; tasks left at its end are dropped.
 class LinuxMainQueue : public MainQueue {
 public:
@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] int fd() const noexcept { return wake_.fd(); }
 
-    /// Runs what is queued, a bounded number of tasks at a time, so that the toolkit's own events get their turn.
+    /// Runs a limited number of queued tasks, so that other events get their turn.
     void runReady();
 
 private:

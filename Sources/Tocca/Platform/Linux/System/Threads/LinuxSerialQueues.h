@@ -7,10 +7,10 @@
 
 namespace tocca::platform::linux {
 
-/// Serial queues with a thread each and room for 1,024 tasks.
+/// Serial queues, each with a thread of its own and room for 1,024 tasks.
 class LinuxSerialQueues : public SerialQueues {
 public:
-    /// `appeal` is asked for every user-interactive queue that the kernel refuses; it may be empty.
+    /// `appeal` is asked on behalf of every user-interactive queue to which the kernel grants no priority; it may be empty.
     explicit LinuxSerialQueues(SchedulingAppeal appeal = {});
 
     [[nodiscard]] std::unique_ptr<SerialQueue> make(const SerialQueueOptions& options) override;

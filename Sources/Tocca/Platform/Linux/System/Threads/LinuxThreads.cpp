@@ -17,7 +17,7 @@ public:
             loop->run([&] {
                 adoptThread(options.name, options.role, options.isUserInteractive, appeal);
                 body();
-                body = Task(); // what the body holds must not wait for the loop to end
+                body = Task(); // frees what the body holds now, and not when the loop ends
             });
         })
     {}

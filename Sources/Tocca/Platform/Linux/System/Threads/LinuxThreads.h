@@ -10,7 +10,7 @@ namespace tocca::platform::linux {
 /// Threads of the operating system, each with a `RunLoop`.
 class LinuxThreads : public Threads {
 public:
-    /// `appeal` is asked for every user-interactive thread that the kernel refuses; it may be empty.
+    /// `appeal` is asked on behalf of every user-interactive thread to which the kernel grants no priority; it may be empty.
     explicit LinuxThreads(SchedulingAppeal appeal = {});
 
     [[nodiscard]] std::unique_ptr<Thread> start(const ThreadOptions& options, Task body) override;

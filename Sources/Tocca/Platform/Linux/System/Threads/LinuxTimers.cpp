@@ -92,7 +92,7 @@ public:
             armedFor_ = kDisarmed;
         }
         const Nanoseconds start = now();
-        const std::uint64_t end = nextSequence_; // what a call schedules waits for the next turn of the loop
+        const std::uint64_t end = nextSequence_; // timers that a call adds are not due before the next turn
         while (!waiting_.empty()) {
             const Turn turn = waiting_.begin()->first;
             if (turn.due > start || turn.sequence >= end) {
@@ -100,7 +100,7 @@ public:
             }
             const std::shared_ptr<Entry> entry = waiting_.begin()->second;
             waiting_.erase(waiting_.begin());
-            arm(); // the call may wait in a loop of its own
+            arm(); // for an event loop nested in the call
             entry->task();
             if (entry->interval != 0 && !entry->isCancelled) {
                 insert(entry, following(entry->turn.due, entry->interval));

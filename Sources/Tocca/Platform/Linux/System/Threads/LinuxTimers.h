@@ -6,9 +6,9 @@
 
 namespace tocca::platform::linux {
 
-/// Timers that share one timer descriptor, set to the earliest of them: no wake-up but those asked for.
+/// Timers that share one timer descriptor (timerfd), which is set to the earliest of them: the program wakes up for nothing else.
 ///
-/// Whoever waits on the main thread calls `runDue` when `fd` is readable; a wait nested in a call works as well, except that
+/// The main thread's event loop calls `runDue` whenever `fd` is readable. An event loop nested in a timer's call serves the other timers;
 /// a repeating timer does not interrupt its own call.
 /// Threads: main.
 /// Errors: an interval under 100 µs counts as 100 µs.
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] std::unique_ptr<Timer> scheduleRepeating(double interval, Task tick) override;
     [[nodiscard]] std::unique_ptr<Timer> scheduleOnce(double delay, Task fire) override;
 
-    /// Like `scheduleOnce`, without a way back.
+    /// Like `scheduleOnce`, but cannot be cancelled.
     void callAfter(double delay, Task fire);
 
     [[nodiscard]] int fd() const noexcept;

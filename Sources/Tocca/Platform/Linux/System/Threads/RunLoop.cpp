@@ -34,7 +34,7 @@ void RunLoop::run(const std::function<void()>& body)
         serve();
     }
     loopOfThisThread = nullptr;
-    // A source that outlives the loop must not wait for it.
+    // The destructor of a source that outlives the loop must not wait.
     for (const auto& record : records_) {
         record->isLeaving.store(true, std::memory_order_relaxed);
     }
@@ -100,7 +100,7 @@ void RunLoop::detach(Record& record) noexcept
 {
     record.isLeaving.store(true, std::memory_order_release);
     if (loopOfThisThread == this) {
-        return; // the turn that is running looks at the mark before every call
+        return; // the loop looks at the mark before every call
     }
     wake_.wake();
     record.isGone.wait(false, std::memory_order_acquire);

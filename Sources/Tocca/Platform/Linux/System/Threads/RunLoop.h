@@ -13,7 +13,7 @@ namespace tocca::platform::linux {
 
 class LoopSource;
 
-/// The event loop of one thread: waits for descriptors and calls back when they are readable.
+/// The event loop of a thread: waits for descriptors and calls back when they are readable.
 ///
 /// Threads: `stop`: any. The rest: the loop's own thread.
 /// Real-time: a turn of the loop takes no lock and, once every source is attached, allocates nothing.
@@ -22,15 +22,15 @@ public:
     /// The loop of the calling thread, or null when it has none.
     [[nodiscard]] static std::shared_ptr<RunLoop> current();
 
-    /// Calls `ready` whenever `*descriptor` is readable or broken; a negative one never is.
+    /// Calls `ready` whenever `*descriptor` is readable or broken; a negative number is never either.
     ///
-    /// The descriptor is looked up before every wait, so that `ready` may exchange it, and must live as long as `ready`.
+    /// The number is read before every wait, so that `ready` may exchange it. Lifetime: `*descriptor` lives as long as the result.
     [[nodiscard]] std::unique_ptr<LoopSource> attach(const int* descriptor, std::function<void()> ready);
 
-    /// Makes this the calling thread's loop for as long as `body` and then the sources it attached last.
+    /// Makes this the loop of the calling thread, calls `body`, and serves the attached sources until none is left.
     void run(const std::function<void()>& body);
 
-    /// Ends `run` after the running callback; a body not yet begun never runs.
+    /// Ends `run` after the callback that is running; a `body` that has not begun never runs.
     void stop() noexcept;
 
 private:
@@ -54,7 +54,7 @@ private:
     std::vector<pollfd> polled_;                   // loop
 };
 
-/// Keeps a callback attached to a loop; destroying it waits for the callback if it is running on another thread.
+/// Keeps a callback attached to a loop. The destructor waits for the callback if that is running on another thread.
 ///
 /// Lifetime: may outlive the loop's thread.
 class LoopSource {

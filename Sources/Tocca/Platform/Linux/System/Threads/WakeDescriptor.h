@@ -4,7 +4,7 @@
 
 namespace tocca::platform::linux {
 
-/// A descriptor that turns readable when somebody asks for it: how other threads interrupt a `poll`.
+/// A descriptor that any thread can make readable, and so end another thread's `poll`.
 ///
 /// Threads: `wake`: any. `drain`: the thread that polls.
 /// Errors: aborts when the process has no descriptor left.
