@@ -31,7 +31,7 @@ protected:
         if (!folder_.isEmpty() && event->buttons().testFlag(Qt::LeftButton)) {
             auto* const data = new QMimeData; // the drag's
             data->setUrls({QUrl::fromLocalFile(folder_)});
-            auto* const drag = new QDrag(this); // the toolkit's
+            auto* const drag = new QDrag(this); // Qt deletes it
             drag->setMimeData(data);
             drag->exec(Qt::CopyAction);
         }

@@ -19,7 +19,7 @@
 
 namespace tocca::platform::linux {
 
-/// Lets the toolkit work until `predicate` holds; false when that takes too long.
+/// Lets Qt work until `predicate` holds; false when that takes too long.
 template <class Predicate>
 bool runUntil(Predicate predicate)
 {
@@ -38,7 +38,7 @@ bool runUntil(Predicate predicate)
     return true;
 }
 
-/// What a command prints, the toolkit working meanwhile.
+/// What a command prints, Qt working meanwhile.
 inline std::string outputOf(const std::vector<std::string>& command)
 {
     instruments::Process process(command);

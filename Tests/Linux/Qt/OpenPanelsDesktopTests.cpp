@@ -83,7 +83,7 @@ TEST_F(OpenPanelsDesktop, AsksTheDesktopsPortal)
     QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
 }
 
-TEST_F(OpenPanelsDesktop, ShowsTheToolkitsDialogWithoutAPortal)
+TEST_F(OpenPanelsDesktop, ShowsQtsOwnDialogWithoutAPortal)
 {
     bool hasPressed = false;
     whileWaiting_ = [&] {

@@ -10,7 +10,7 @@
 
 namespace tocca::platform::linux {
 
-/// The Linux main queue and timers on the toolkit's loop.
+/// The Linux main queue and timers on the event loop of Qt.
 class QtMachine {
 public:
     MainQueue& mainQueue() { return queue_; }
@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    /// The toolkit's application object, of which a process has one.
+    /// The Qt application object, of which a process has one.
     static QCoreApplication& application()
     {
         static int argumentCount = 1;

@@ -32,6 +32,18 @@ protected:
 
     static std::string clients() { return property(0, "_NET_CLIENT_LIST"); }
 
+    /// Takes the person to another desktop, and waits until the window manager has done so.
+    static void switchTo(const std::string& desktop)
+    {
+        outputOf({"xdotool", "set_desktop", desktop});
+        ASSERT_TRUE(runUntil([&] { return contains(property(0, "_NET_CURRENT_DESKTOP"), "= " + desktop); }));
+    }
+
+    [[nodiscard]] bool isOn(const std::string& desktop) const
+    {
+        return runUntil([&] { return contains(property(content_.id(), "_NET_WM_DESKTOP"), "= " + desktop); });
+    }
+
     OwnWindows family_;
     LinuxWindows windows_{family_};
     Content content_;
@@ -70,16 +82,16 @@ TEST_F(WindowsDesktop, HidesInsteadOfClosingAndComesBackWhereItWas)
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(runUntil([&] { return clients() != before; })) << "it is not in the task bar either";
 
-    outputOf({"xdotool", "set_num_desktops", "2", "set_desktop", "1"});
+    outputOf({"xdotool", "set_num_desktops", "2"});
+    switchTo("1");
     window->makeKeyAndOrderFront();
     ASSERT_TRUE(runUntil([&] { return content_.isShown() && content_.window()->isActive(); }));
     EXPECT_TRUE(runUntil([&] { return content_.window()->framePosition() == place; }));
-    EXPECT_TRUE(contains(property(content_.id(), "_NET_WM_DESKTOP"), "= 1"));
+    EXPECT_TRUE(isOn("1"));
 
-    outputOf({"xdotool", "set_desktop", "0"});
+    switchTo("0");
     window->makeKeyAndOrderFront();
-    EXPECT_TRUE(runUntil([&] { return contains(property(content_.id(), "_NET_WM_DESKTOP"), "= 0"); }))
-        << "it comes to where the person is";
+    EXPECT_TRUE(isOn("0")) << "it comes to where the person is";
 }
 
 TEST_F(WindowsDesktop, ShowsTheMonitorsWhatIsTypedIntoIt)

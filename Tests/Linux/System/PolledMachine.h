@@ -11,7 +11,7 @@
 
 namespace tocca::platform::linux {
 
-/// The Linux services around a main loop of three lines, for tests that need no toolkit.
+/// The Linux services around a main loop of three lines, for tests that need no Qt.
 class PolledMachine {
 public:
     MainQueue& mainQueue() { return mainQueue_; }
