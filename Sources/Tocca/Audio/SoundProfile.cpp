@@ -1,9 +1,13 @@
 #include "Audio/SoundProfile.h"
 
+#include "Platform/KeyCodes.h"
+
 #include <algorithm>
 #include <initializer_list>
 
 namespace tocca::audio {
+
+namespace key = platform::key;
 
 namespace {
 
@@ -37,7 +41,7 @@ constexpr std::array<SwitchRow, SwitchType::allCases.size()> kSwitches{{
      .folderName = "typewriter"},
 }};
 
-constexpr std::size_t kPanCodes = 118;
+constexpr std::size_t kPanCodes = key::kForwardDelete + 1;
 
 constexpr std::array<float, kPanCodes> makePanTable()
 {
@@ -47,10 +51,13 @@ constexpr std::array<float, kPanCodes> makePanTable()
             table[code] = pan;
         }
     };
-    place(-0.55F, {0, 6, 12, 18, 19, 48, 50, 56, 57, 59});
-    place(-0.28F, {1, 2, 7, 8, 13, 14, 20, 21});
-    place(+0.28F, {26, 28, 32, 34, 38, 40, 46});
-    place(+0.55F, {24, 27, 30, 31, 33, 35, 36, 37, 39, 41, 42, 51, 60, 76, 117});
+    place(-0.55F, {key::kA, key::kZ, key::kQ, key::k1, key::k2, key::kTab, key::kGrave, key::kLeftShift,
+                   key::kCapsLock, key::kLeftControl});
+    place(-0.28F, {key::kS, key::kD, key::kX, key::kC, key::kW, key::kE, key::k3, key::k4});
+    place(+0.28F, {key::k7, key::k8, key::kU, key::kI, key::kJ, key::kK, key::kM});
+    place(+0.55F, {key::kEqual, key::kMinus, key::kRightBracket, key::kO, key::kLeftBracket, key::kP,
+                   key::kReturn, key::kL, key::kQuote, key::kSemicolon, key::kBackslash, key::kDelete,
+                   key::kRightShift, key::kKeypadEnter, key::kForwardDelete});
     return table;
 }
 
@@ -61,18 +68,18 @@ constexpr std::array<float, kPanCodes> kPans = makePanTable();
 KeyCategory KeyCategory::from(std::uint16_t keyCode) noexcept
 {
     switch (keyCode) {
-    case 49:
+    case key::kSpace:
         return spacebar;
-    case 36:
-    case 76:
+    case key::kReturn:
+    case key::kKeypadEnter:
         return enter;
-    case 51:
-    case 117:
+    case key::kDelete:
+    case key::kForwardDelete:
         return backspace;
-    case 48:
+    case key::kTab:
         return modifier;
     default:
-        return keyCode >= 53 && keyCode <= 62 ? modifier : standard;
+        return keyCode >= key::kEscape && keyCode <= key::kRightControl ? modifier : standard;
     }
 }
 

@@ -39,7 +39,7 @@ inline constexpr std::uint64_t kFunction = 0x800000;
 /// Units: `time` is on the platform's `Clock`, the best estimate of when it physically happened; `scrollDeltaY` is in lines,
 /// positive away from the user. Fields that a type does not use are 0.
 struct InputEvent {
-    std::uint16_t keyCode = 0; ///< physical position, as in Platform/README.md
+    std::uint16_t keyCode = 0; ///< one of `key`, or a number beyond them for a key that has none
     bool isAutorepeat = false;
     std::uint64_t flags = 0; ///< modifiers held after the event
     double scrollDeltaY = 0.0;

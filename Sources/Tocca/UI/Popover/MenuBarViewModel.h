@@ -5,6 +5,7 @@
 #include "Audio/AudioEngine.h"
 #include "Audio/Packs/SoundPackLoader.h"
 #include "Keyboard/KeyboardMonitor.h"
+#include "Platform/KeyCodes.h"
 #include "UI/Controllers.h"
 #include "UI/NotchHUD/NotchAcousticHUDController.h"
 #include "UI/Popover/Packs/CommunityPage.h"
@@ -107,8 +108,16 @@ public:
     Q_INVOKABLE void showMainWindow();
     Q_INVOKABLE void terminate();
 
+    /// The keys that can be tried, by their codes: one on the left, one in the middle, one on the right.
+    enum QuickKey : quint16 {
+        LeftKey = platform::key::kA,
+        SpaceBar = platform::key::kSpace,
+        RightKey = platform::key::kReturn
+    };
+    Q_ENUM(QuickKey)
+
     /// Lets a key be heard as if it were pressed.
-    Q_INVOKABLE void playKey(int keyCode);
+    Q_INVOKABLE void playKey(QuickKey key);
     Q_INVOKABLE void openAccessibilitySettings();
     Q_INVOKABLE void checkPermission();
 

@@ -16,7 +16,7 @@ Row {
         width: root.each
         icon: "arrow.left"
         text: "Left"
-        onActivated: root.model.playKey(0)
+        onActivated: root.model.playKey(MenuBarViewModel.LeftKey)
     }
 
     QuickKeyButton {
@@ -24,7 +24,7 @@ Row {
         width: root.each
         icon: "space"
         text: "Spacebar"
-        onActivated: root.model.playKey(49)
+        onActivated: root.model.playKey(MenuBarViewModel.SpaceBar)
     }
 
     QuickKeyButton {
@@ -32,7 +32,7 @@ Row {
         width: root.each
         icon: "arrow.right"
         text: "Right"
-        onActivated: root.model.playKey(36)
+        onActivated: root.model.playKey(MenuBarViewModel.RightKey)
     }
 
     QuickKeyButton {

@@ -1,14 +1,10 @@
 #include "UI/Popover/Packs/SoundPackRows.h"
 
 #include "Audio/AudioEngine.h"
+#include "Platform/KeyCodes.h"
 #include "Support/DisplayText.h"
 
 namespace tocca::ui::soundPackRows {
-namespace {
-
-constexpr std::uint16_t kSpaceBar = 49;
-
-} // namespace
 
 std::vector<SoundPackRow> builtIn(const audio::AudioEngine& engine)
 {
@@ -42,13 +38,13 @@ void choose(audio::AudioEngine& engine, audio::SwitchType type)
 {
     engine.selectedCustomPack.set(std::nullopt);
     engine.currentSwitchType.set(type);
-    engine.playKey(kSpaceBar, audio::KeyStrokeAction::down);
+    engine.playKey(platform::key::kSpace, audio::KeyStrokeAction::down);
 }
 
 void choose(audio::AudioEngine& engine, const audio::SoundPackInfo& pack)
 {
     engine.selectedCustomPack.set(pack);
-    engine.playKey(kSpaceBar, audio::KeyStrokeAction::down);
+    engine.playKey(platform::key::kSpace, audio::KeyStrokeAction::down);
 }
 
 } // namespace tocca::ui::soundPackRows

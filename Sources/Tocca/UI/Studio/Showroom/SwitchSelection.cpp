@@ -1,15 +1,9 @@
 #include "UI/Studio/Showroom/SwitchSelection.h"
 
 #include "Audio/AudioEngine.h"
-
-#include <cstdint>
+#include "Platform/KeyCodes.h"
 
 namespace tocca::ui::switchSelection {
-namespace {
-
-constexpr std::uint16_t kSpaceBar = 49;
-
-} // namespace
 
 bool isSelected(const ShowroomItem& item, const audio::AudioEngine& engine)
 {
@@ -28,7 +22,7 @@ void select(const ShowroomItem& item, audio::AudioEngine& engine)
         engine.selectedCustomPack.set(std::nullopt);
         engine.currentSwitchType.set(*item.switchType);
     }
-    engine.playKey(kSpaceBar, audio::KeyStrokeAction::down);
+    engine.playKey(platform::key::kSpace, audio::KeyStrokeAction::down);
 }
 
 std::string activeSwitchName(const audio::AudioEngine& engine)

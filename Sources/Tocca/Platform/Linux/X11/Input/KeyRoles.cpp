@@ -16,19 +16,19 @@ constexpr std::size_t kCapsLockKey = KEY_CAPSLOCK + kFirstKey;
 std::uint64_t flagOfPosition(std::uint16_t keyCode) noexcept
 {
     switch (keyCode) {
-    case keyCodeOf(KEY_LEFTSHIFT):
-    case keyCodeOf(KEY_RIGHTSHIFT):
+    case key::kLeftShift:
+    case key::kRightShift:
         return flag::kShift;
-    case keyCodeOf(KEY_LEFTCTRL):
-    case keyCodeOf(KEY_RIGHTCTRL):
+    case key::kLeftControl:
+    case key::kRightControl:
         return flag::kControl;
-    case keyCodeOf(KEY_LEFTALT):
-    case keyCodeOf(KEY_RIGHTALT):
+    case key::kLeftOption:
+    case key::kRightOption:
         return flag::kOption;
-    case keyCodeOf(KEY_LEFTMETA):
-    case keyCodeOf(KEY_RIGHTMETA):
+    case key::kLeftCommand:
+    case key::kRightCommand:
         return flag::kCommand;
-    case keyCodeOf(KEY_FN):
+    case key::kFunction:
         return flag::kFunction;
     default:
         return 0;

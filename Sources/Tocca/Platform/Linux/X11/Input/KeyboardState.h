@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/InputEvent.h"
+#include "Platform/KeyCodes.h"
 #include "Platform/Linux/X11/Input/KeyRoles.h"
 
 #include <bitset>
@@ -66,8 +67,6 @@ public:
     }
 
 private:
-    static constexpr std::uint16_t kUsualLockKey = 57;
-
     template <class Report>
     static void reportIf(const std::optional<KeyTransition>& transition, Report& report)
     {
@@ -86,7 +85,7 @@ private:
     bool isLocked_ = false;
     bool isLockReported_ = false;
     std::uint64_t flags_ = 0;
-    std::uint16_t lockKeyCode_ = kUsualLockKey; // of the lock key that was pressed last
+    std::uint16_t lockKeyCode_ = key::kCapsLock; // of the lock key that was pressed last
 };
 
 } // namespace tocca::platform::linux
