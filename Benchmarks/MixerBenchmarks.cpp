@@ -52,7 +52,7 @@ void renderVoices(benchmark::State& state, std::size_t channels, float rate, int
             state.PauseTiming();
             mixer = std::make_unique<Mixer>(clock);
             for (const auto& clip : clips) {
-                benchmark::DoNotOptimize(mixer->start({.clip = clip, .eventTime = 999.999, .rate = rate}));
+                benchmark::DoNotOptimize(mixer->start(clip, {.rate = rate, .eventTime = 999.999}));
             }
             mixer->render(block, cycle);
             state.ResumeTiming();

@@ -49,28 +49,21 @@ BENCHMARK_CAPTURE(decodeAndConvert, wav44k, testkit::Encoding::Wav16, 44100);
 BENCHMARK_CAPTURE(decodeAndConvert, ogg44k, testkit::Encoding::OggVorbis, 44100);
 BENCHMARK_CAPTURE(decodeAndConvert, mp344k, testkit::Encoding::Mp3, 44100);
 
-/// Making, setting up, starting and replacing a player, with the render thread's part of the hand-over.
+/// Starting and replacing a player, with the render thread's part of the hand-over.
 void playStroke(benchmark::State& state)
 {
     const StillClock clock;
     SilentOutput output;
     const auto mixer = std::make_unique<Mixer>(clock);
-    MixerAudioPlayers players(output, clock, *mixer);
+    MixerAudioPlayers players(output, *mixer);
     const auto bytes = recording(testkit::Encoding::Wav16, 48000);
-    std::array<std::unique_ptr<platform::AudioPlayer>, 36> pool;
+    std::array<std::unique_ptr<platform::AudioPlayer>, platform::kMaxVoices> pool;
     std::array<float, 128> block{};
     std::size_t next = 0;
     const ThreadRoleScope role(ThreadRole::AudioQueue);
     for (auto _ : state) {
-        auto made = players.make(bytes);
-        auto& player = *made.value();
-        player.setEnableRate(true);
-        player.setRate(1.02F);
-        player.setVolume(0.5F);
-        player.setPan(0.2F);
-        player.prepareToPlay();
-        player.play(999.99);
-        pool[next % pool.size()] = std::move(made.value());
+        auto player = players.play(bytes, {.rate = 1.02F, .volume = 0.5F, .pan = 0.2F, .eventTime = 999.99});
+        pool[next % pool.size()] = std::move(player.value());
         if (++next % 100 == 0) {
             state.PauseTiming();
             const ThreadRoleScope render(ThreadRole::Render);

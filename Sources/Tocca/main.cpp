@@ -26,7 +26,7 @@ struct Desktop {
     platform::linux::LinuxHost system;
     player::Mixer mixer{system.clock()};
     platform::linux::LinuxAudioOutput output{system.standardOutput(), {.appeal = system.appeal()}};
-    player::MixerAudioPlayers players{output, system.clock(), mixer};
+    player::MixerAudioPlayers players{output, mixer};
     platform::Host host{system.with(players)};
 };
 

@@ -68,7 +68,6 @@ TEST_F(AudioEngineTest, PlaysAPressWithTheDefaultsOfAFreshLaunch)
     EXPECT_FLOAT_EQ(last().rate, 1.02F * 0.98F);
     EXPECT_FLOAT_EQ(last().volume, 1.0F);
     EXPECT_FLOAT_EQ(last().pan, -0.55F);
-    EXPECT_TRUE(last().wasPrepared);
     EXPECT_EQ(host.haptics().pulseCount, 1);
     EXPECT_EQ(engine.keyVisualizerTrigger.get(), 1);
     EXPECT_FLOAT_EQ(engine.lastActiveKeyPan.get(), -0.55F);

@@ -43,9 +43,9 @@ TEST(MixerRealtime, RenderingNeverAllocatesFreesOrLocks)
         const auto strokes = cycle % 500 == 100 ? 70UL : isBusy ? random() % 5 : 0UL;
         for (unsigned long i = 0; i < strokes; ++i) {
             const auto ticket = stage.start(
-                {.clip = counted(living, 1 + random() % 9000, random() % 2 == 0),
-                 .eventTime = stage.cycle.beginsAt - 0.102 + 0.001 * static_cast<double>(random() % 130),
-                 .rate = random() % 3 == 0 ? 1.0F : 0.8F + 0.001F * static_cast<float>(random() % 600)});
+                counted(living, 1 + random() % 9000, random() % 2 == 0),
+                {.rate = random() % 3 == 0 ? 1.0F : 0.8F + 0.001F * static_cast<float>(random() % 600),
+                 .eventTime = stage.cycle.beginsAt - 0.102 + 0.001 * static_cast<double>(random() % 130)});
             if (ticket) {
                 tickets.push_back(*ticket);
             }
@@ -66,13 +66,6 @@ TEST(MixerRealtime, RenderingNeverAllocatesFreesOrLocks)
     }
     EXPECT_EQ(violations, 0U);
     EXPECT_EQ(living, 0);
-
-    const MixerStatistics statistics = stage.mixer->statistics();
-    EXPECT_GT(statistics.started, 800U);
-    EXPECT_GT(statistics.late, 100U);
-    EXPECT_GT(statistics.tooOld, 5U);
-    EXPECT_GT(statistics.stolen, 100U);
-    EXPECT_GT(statistics.cut, 0U);
     EXPECT_GT(peak, 0.9F);
     EXPECT_LE(peak, Limiter::kCeiling);
 }
@@ -98,16 +91,16 @@ TEST(MixerRealtime, StrokesMayStartAndStopWhileAnotherThreadRenders)
     std::thread audioQueue([&] {
         const ThreadRoleScope role(ThreadRole::AudioQueue);
         std::minstd_rand random(11);
-        std::vector<std::optional<VoiceTicket>> pool(36);
+        std::vector<std::optional<VoiceTicket>> pool(platform::kMaxVoices);
         for (int stroke = 0; stroke < kStrokes; ++stroke) {
             stage.mixer->reclaim();
             auto& place = pool[static_cast<std::size_t>(stroke) % pool.size()];
             if (place) {
                 stage.mixer->stop(*place);
             }
-            place = stage.mixer->start({.clip = counted(living, 1 + random() % 2000, stroke % 2 == 0),
-                                        .eventTime = stage.cycle.beginsAt,
-                                        .rate = 0.9F + 0.001F * static_cast<float>(random() % 200)});
+            place = stage.mixer->start(counted(living, 1 + random() % 2000, stroke % 2 == 0),
+                                       {.rate = 0.9F + 0.001F * static_cast<float>(random() % 200),
+                                        .eventTime = stage.cycle.beginsAt});
         }
         for (const auto& ticket : pool) {
             if (ticket) {
@@ -123,7 +116,6 @@ TEST(MixerRealtime, StrokesMayStartAndStopWhileAnotherThreadRenders)
     isPlaying = false;
     renderer.join();
     EXPECT_EQ(living, 0);
-    EXPECT_EQ(stage.mixer->statistics().tooOld, 0U);
 }
 
 } // namespace

@@ -37,16 +37,17 @@ struct MixerStage {
     std::vector<float> left;  ///< everything rendered so far
     std::vector<float> right; ///< likewise
 
-    std::optional<player::VoiceTicket> start(player::VoiceRequest request)
+    std::optional<player::VoiceTicket> start(std::shared_ptr<const player::PcmClip> clip,
+                                             const platform::Playback& playback)
     {
         const ThreadRoleScope role(ThreadRole::AudioQueue);
-        return mixer->start(std::move(request));
+        return mixer->start(std::move(clip), playback);
     }
 
     /// Starts `clip` at the next block's first frame.
     std::optional<player::VoiceTicket> startNow(std::shared_ptr<const player::PcmClip> clip)
     {
-        return start({.clip = std::move(clip), .eventTime = timeOfFrame(0)});
+        return start(std::move(clip), {.eventTime = timeOfFrame(0)});
     }
 
     /// When a stroke must happen to sound at `frame` of the next block.

@@ -20,8 +20,10 @@ struct Sound {
 };
 
 /// Everything that a voice adds, asked for in blocks of `block` frames.
-Sound rendered(const VoiceRequest& request, const SincKernel& kernel, std::size_t block = 64)
+Sound rendered(std::shared_ptr<const PcmClip> clip, const platform::Playback& playback,
+               const SincKernel& kernel = bestSincKernel(), std::size_t block = 64)
 {
+    const VoiceRequest request{.clip = std::move(clip), .playback = playback};
     Voice voice(request, 48000.0);
     Sound sound;
     bool goesOn = true;
@@ -82,7 +84,7 @@ TEST(Voice, CopiesEveryFrameUnchangedAtTheRecordedSpeed)
     const auto noise = testkit::click(1000);
     for (const std::size_t block : {1U, 7U, 64U, 333U, 4096U}) {
         SCOPED_TRACE(block);
-        auto sound = rendered({.clip = clipOf(noise)}, bestSincKernel(), block);
+        auto sound = rendered(clipOf(noise), {}, bestSincKernel(), block);
         sound.left.resize(noise.size());
         sound.right.resize(noise.size());
         EXPECT_EQ(sound.left, noise);
@@ -99,7 +101,7 @@ TEST(Voice, KeepsTonesPureAndInTuneAtOtherSpeeds)
                 const auto clip =
                     std::make_shared<const PcmClip>(testkit::sine(frequency, 48000.0, 24000),
                                                     testkit::sine(frequency, 48000.0, 24000, 0.25), 48000.0);
-                const auto sound = rendered({.clip = clip, .rate = rate}, kernel);
+                const auto sound = rendered(clip, {.rate = rate}, kernel);
                 const auto middle = [](const std::vector<float>& side) {
                     return std::span(side).subspan(100, 16000);
                 };
@@ -117,9 +119,9 @@ TEST(Voice, ReadsTheSameWithOneChannelAsWithTwoAndWhateverTheBlocks)
     for (const auto& [name, kernel] : kKernels) {
         SCOPED_TRACE(name);
         const auto both = std::make_shared<const PcmClip>(left, right, 48000.0);
-        const auto whole = rendered({.clip = both, .rate = 0.97F}, kernel, 8192);
-        const auto single = rendered({.clip = clipOf(right), .rate = 0.97F}, kernel, 8192);
-        auto pieces = rendered({.clip = both, .rate = 0.97F}, kernel, 13);
+        const auto whole = rendered(both, {.rate = 0.97F}, kernel, 8192);
+        const auto single = rendered(clipOf(right), {.rate = 0.97F}, kernel, 8192);
+        auto pieces = rendered(both, {.rate = 0.97F}, kernel, 13);
         pieces.left.resize(whole.left.size(), 0.0F);
         pieces.right.resize(whole.right.size(), 0.0F);
         EXPECT_EQ(single.left, whole.right);
@@ -132,7 +134,7 @@ TEST(Voice, LastsAsLongAsItsSpeedSays)
 {
     const auto clip = clipOf(std::vector<float>(1000, 0.5F));
     for (const auto& [rate, frames] : {std::pair{1.0F, 1000}, {0.5F, 2000}, {1.25F, 800}, {1.3F, 770}}) {
-        Voice voice({.clip = clip, .rate = rate}, 48000.0);
+        Voice voice({.clip = clip, .playback = {.rate = rate}}, 48000.0);
         std::array<float, 2> frame{};
         int count = 1;
         while (voice.addTo(frame, bestSincKernel())) {
@@ -151,7 +153,7 @@ TEST(Voice, StaysWithinTheRecordingsMemoryAtAnySpeed)
                 for (const auto& [name, kernel] : kKernels) {
                     const auto clip = std::make_shared<const PcmClip>(
                         std::vector<float>(length, 0.5F), std::vector<float>(length, 0.5F), recorded);
-                    for (const float sample : rendered({.clip = clip, .rate = rate}, kernel).left) {
+                    for (const float sample : rendered(clip, {.rate = rate}, kernel).left) {
                         ASSERT_LE(std::abs(sample), 0.8F);
                     }
                 }
@@ -163,8 +165,7 @@ TEST(Voice, StaysWithinTheRecordingsMemoryAtAnySpeed)
 TEST(Voice, KeepsOutOfTheTrebleWhatAHighSpeedWouldFoldBack)
 {
     // At 1.35 times the speed, 22 kHz would come out at 48 − 29.7 = 18.3 kHz.
-    const auto sound =
-        rendered({.clip = clipOf(testkit::sine(22000, 48000, 24000, 1.0)), .rate = 1.35F}, bestSincKernel());
+    const auto sound = rendered(clipOf(testkit::sine(22000, 48000, 24000, 1.0)), {.rate = 1.35F});
     double sum = 0.0;
     for (std::size_t i = 100; i < 16000; ++i) {
         sum += static_cast<double>(sound.left[i]) * static_cast<double>(sound.left[i]);
@@ -205,14 +206,14 @@ TEST(SideGains, FollowABalanceControlAndIgnoreWhatIsNoLevel)
 
 TEST(SideGains, ReachBothSidesOfEveryFrame)
 {
-    const auto mono = rendered({.clip = clipOf(std::vector<float>(67, 0.5F)), .volume = 0.5F, .pan = 0.5F},
-                               bestSincKernel(), 67);
+    const auto mono =
+        rendered(clipOf(std::vector<float>(67, 0.5F)), {.volume = 0.5F, .pan = 0.5F}, bestSincKernel(), 67);
     EXPECT_EQ(mono.left, std::vector<float>(67, 0.125F));
     EXPECT_EQ(mono.right, std::vector<float>(67, 0.25F));
 
     const auto clip = std::make_shared<const PcmClip>(std::vector<float>(67, 0.5F),
                                                       std::vector<float>(67, -0.25F), 48000.0);
-    const auto stereo = rendered({.clip = clip, .pan = -0.5F}, bestSincKernel(), 67);
+    const auto stereo = rendered(clip, {.pan = -0.5F}, bestSincKernel(), 67);
     EXPECT_EQ(stereo.left, std::vector<float>(67, 0.5F));
     EXPECT_EQ(stereo.right, std::vector<float>(67, -0.125F));
 }

@@ -23,36 +23,16 @@ namespace tocca::testkit {
 /// Players that cost nothing, so that what is left is the road to them.
 class SilentPlayers final : public platform::AudioPlayers {
 public:
-    [[nodiscard]] Result<std::unique_ptr<platform::AudioPlayer>> make(const SharedBytes&) override
+    [[nodiscard]] Result<std::unique_ptr<platform::AudioPlayer>> play(const SharedBytes&,
+                                                                      const platform::Playback&) override
     {
-        return std::unique_ptr<platform::AudioPlayer>(std::make_unique<Player>(played_));
+        ++played_;
+        return std::make_unique<platform::AudioPlayer>();
     }
 
     [[nodiscard]] std::uint64_t played() const noexcept { return played_.load(); }
 
 private:
-    class Player final : public platform::AudioPlayer {
-    public:
-        explicit Player(std::atomic<std::uint64_t>& played)
-            : played_(played)
-        {}
-
-        void setEnableRate(bool) override {}
-
-        void setRate(float) override {}
-
-        void setVolume(float) override {}
-
-        void setPan(float) override {}
-
-        void prepareToPlay() override {}
-
-        void play(std::optional<double>) override { ++played_; }
-
-    private:
-        std::atomic<std::uint64_t>& played_;
-    };
-
     std::atomic<std::uint64_t> played_{0};
 };
 

@@ -32,25 +32,6 @@ float scrollSpeedFactor(double deltaY) noexcept
 
 } // namespace
 
-/// A key stroke on its way to the audio queue.
-struct AudioEngine::KeySound {
-    KeyCategory category;
-    KeyStrokeAction action;
-    SwitchType switchType;
-    const SoundPackInfo* pack;
-    StrokeShape shape;
-    std::optional<double> eventTime;
-};
-
-/// How a recording is to be played.
-struct AudioEngine::Playback {
-    float rate;
-    float volume;
-    std::optional<float> pan;
-    std::optional<double> eventTime;
-    std::string_view failure; ///< what the diagnostic line begins with
-};
-
 AudioEngine::AudioEngine(platform::Host& host, SoundPackLoader& loader, MuteQuery isSmartMuted)
     : host_(host)
     , loader_(loader)
@@ -147,16 +128,11 @@ void AudioEngine::playKey(std::uint16_t keyCode, KeyStrokeAction action, std::op
     }
     const double now = host_.clock.now();
     const double interval = now - lastStrokeTime_.exchange(now, std::memory_order_relaxed);
-    const StrokeShape shape = shapeStroke(settings, keyCode, interval);
+    const Stroke stroke = shapeStroke(settings, keyCode, action, interval, eventTime);
     if (action == KeyStrokeAction::down && settings.isHapticsEnabled) {
-        postFeedback(shape.pan);
+        postFeedback(stroke.playback.pan);
     }
-    queue_->post([this, sound = KeySound{.category = KeyCategory::from(keyCode),
-                                         .action = action,
-                                         .switchType = settings.currentSwitchType,
-                                         .pack = settings.selectedCustomPack,
-                                         .shape = shape,
-                                         .eventTime = eventTime}] { runKeySound(sound); });
+    queue_->post([this, stroke] { runStroke(stroke); });
 }
 
 void AudioEngine::postFeedback(float pan)
@@ -169,22 +145,16 @@ void AudioEngine::postFeedback(float pan)
     }));
 }
 
-void AudioEngine::runKeySound(const KeySound& sound)
+void AudioEngine::runStroke(Stroke stroke)
 {
     const SharedBytes data =
-        sound.pack != nullptr
-            ? loader_.sample(sound.pack->folderURL, sound.pack->id, sound.category, sound.action)
-            : loader_.sample(sound.switchType, sound.category, sound.action);
-    if (!data) {
-        return;
+        stroke.pack != nullptr
+            ? loader_.sample(stroke.pack->folderURL, stroke.pack->id, stroke.category, stroke.action)
+            : loader_.sample(stroke.switchType, stroke.category, stroke.action);
+    if (data) {
+        stroke.playback.rate *= drawBetween(host_.random, 0.98F, 1.02F) + stroke.burstPitchOffset;
+        start("Failed to play audio sample: ", data, stroke.playback);
     }
-    const StrokeShape& shape = sound.shape;
-    start(data, {.rate = (drawBetween(host_.random, 0.98F, 1.02F) + shape.burstPitchOffset) * shape.deskRate *
-                         shape.lubeFactor,
-                 .volume = shape.gain,
-                 .pan = shape.pan,
-                 .eventTime = sound.eventTime,
-                 .failure = "Failed to play audio sample: "});
 }
 
 void AudioEngine::playMouseClick(MouseButton button, std::optional<double> eventTime)
@@ -205,11 +175,10 @@ void AudioEngine::runMouseClick(MouseSwitchProfile profile, MouseButton button,
     if (!data) {
         return;
     }
-    start(data, {.rate = drawBetween(host_.random, 0.96F, 1.04F),
-                 .volume = clampedLevel(settings_.load().volume * kClickLevel),
-                 .pan = std::nullopt,
-                 .eventTime = eventTime,
-                 .failure = "Failed to play mouse click: "});
+    start("Failed to play mouse click: ", data,
+          {.rate = drawBetween(host_.random, 0.96F, 1.04F),
+           .volume = clampedLevel(settings_.load().volume * kClickLevel),
+           .eventTime = eventTime});
 }
 
 void AudioEngine::playScrollRatchet(double deltaY, std::optional<double> eventTime)
@@ -232,30 +201,20 @@ void AudioEngine::runScrollRatchet(double deltaY, std::optional<double> eventTim
     if (!data) {
         return;
     }
-    start(data, {.rate = scrollSpeedFactor(deltaY) * drawBetween(host_.random, 0.96F, 1.04F),
-                 .volume = clampedLevel(settings_.load().volume * kRatchetLevel),
-                 .pan = std::nullopt,
-                 .eventTime = eventTime,
-                 .failure = "Failed to play scroll ratchet: "});
+    start("Failed to play scroll ratchet: ", data,
+          {.rate = scrollSpeedFactor(deltaY) * drawBetween(host_.random, 0.96F, 1.04F),
+           .volume = clampedLevel(settings_.load().volume * kRatchetLevel),
+           .eventTime = eventTime});
 }
 
-void AudioEngine::start(const SharedBytes& data, const Playback& playback)
+void AudioEngine::start(std::string_view failure, const SharedBytes& data, const platform::Playback& playback)
 {
-    auto made = host_.audioPlayers.make(data);
-    if (!made) {
-        host_.standardOutput.printLine(std::string(playback.failure) + made.error().describe());
-        return;
+    auto player = host_.audioPlayers.play(data, playback);
+    if (player) {
+        pool_.keep(std::move(player.value()));
+    } else {
+        host_.standardOutput.printLine(std::string(failure) + player.error().describe());
     }
-    platform::AudioPlayer& player = *made.value();
-    player.setEnableRate(true);
-    player.setRate(playback.rate);
-    player.setVolume(playback.volume);
-    if (playback.pan) {
-        player.setPan(*playback.pan);
-    }
-    player.prepareToPlay();
-    player.play(playback.eventTime);
-    pool_.keep(std::move(made.value()));
 }
 
 } // namespace tocca::audio

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace tocca::platform {
@@ -78,17 +79,14 @@ public:
     void warmUp();
 
 private:
-    struct KeySound;
-    struct Playback;
-
     void precomputePeripheralAudio();
     void mirrorSettings();
     void refreshSettings();
     void postFeedback(float pan);
-    void runKeySound(const KeySound& sound);
+    void runStroke(Stroke stroke);
     void runMouseClick(MouseSwitchProfile profile, MouseButton button, std::optional<double> eventTime);
     void runScrollRatchet(double deltaY, std::optional<double> eventTime);
-    void start(const SharedBytes& data, const Playback& playback);
+    void start(std::string_view failure, const SharedBytes& data, const platform::Playback& playback);
 
     platform::Host& host_;
     SoundPackLoader& loader_;

@@ -2,9 +2,9 @@
 
 #include "Platform/AudioPlayer.h"
 
+#include <array>
 #include <cstddef>
 #include <memory>
-#include <vector>
 
 namespace tocca::audio {
 
@@ -12,22 +12,14 @@ namespace tocca::audio {
 /// Threads: audio queue.
 class PlayerPool {
 public:
-    static constexpr std::size_t kPoolSize = 36;
-
-    PlayerPool() { activePlayers_.reserve(kPoolSize); }
-
     void keep(std::unique_ptr<platform::AudioPlayer> player)
     {
-        if (activePlayers_.size() < kPoolSize) {
-            activePlayers_.push_back(std::move(player));
-            return;
-        }
         activePlayers_[poolIndex_] = std::move(player);
-        poolIndex_ = (poolIndex_ + 1) % kPoolSize;
+        poolIndex_ = (poolIndex_ + 1) % activePlayers_.size();
     }
 
 private:
-    std::vector<std::unique_ptr<platform::AudioPlayer>> activePlayers_;
+    std::array<std::unique_ptr<platform::AudioPlayer>, platform::kMaxVoices> activePlayers_;
     std::size_t poolIndex_ = 0;
 };
 

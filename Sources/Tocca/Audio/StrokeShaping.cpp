@@ -21,18 +21,24 @@ float clampedLevel(float level) noexcept
     return level > 0.0F ? std::min(level, 1.0F) : 0.0F;
 }
 
-StrokeShape shapeStroke(const AudioSettings& settings, std::uint16_t keyCode, double interval) noexcept
+Stroke shapeStroke(const AudioSettings& settings, std::uint16_t keyCode, KeyStrokeAction action,
+                   double interval, std::optional<double> eventTime) noexcept
 {
     const bool isBurst = settings.isBurstDynamicsEnabled && interval > kBurstFrom && interval < kBurstTo;
     const float burstGain = isBurst ? kBurstGain : 1.0F;
     const float presenceGain = settings.isPresenceEQEnabled ? kPresenceGain : 1.0F;
-    const float volume = clampedLevel(settings.volume);
+    const float gain =
+        burstGain * clampedLevel(settings.volume) * presenceGain * settings.deskSurface.deskGain();
     return {
-        .gain = std::min(burstGain * volume * presenceGain * settings.deskSurface.deskGain(), 1.0F),
+        .category = KeyCategory::from(keyCode),
+        .action = action,
+        .switchType = settings.currentSwitchType,
+        .pack = settings.selectedCustomPack,
         .burstPitchOffset = isBurst ? kBurstPitchOffset : 0.0F,
-        .deskRate = settings.deskSurface.deskRate(),
-        .lubeFactor = 1.0F - kLubeSlowdown * settings.lubeLevel,
-        .pan = settings.isSpatialAudioEnabled ? KeyCategory::spatialPan(keyCode) : 0.0F,
+        .playback = {.rate = settings.deskSurface.deskRate() * (1.0F - kLubeSlowdown * settings.lubeLevel),
+                     .volume = std::min(gain, 1.0F),
+                     .pan = settings.isSpatialAudioEnabled ? KeyCategory::spatialPan(keyCode) : 0.0F,
+                     .eventTime = eventTime},
     };
 }
 

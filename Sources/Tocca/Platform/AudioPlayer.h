@@ -3,42 +3,43 @@
 #include "Support/Result.h"
 #include "Support/SharedBytes.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 
 namespace tocca::platform {
 
-/// Plays one recording once.
+/// How many recordings sound at once; another one ends the oldest.
+inline constexpr std::size_t kMaxVoices = 36;
+
+/// How a recording is to sound.
 ///
-/// Units: volume is linear 0…1; pan is −1 left … +1 right, 0 leaves both channels as they are; rate 1 is the recorded speed,
-/// pitch follows.
-/// Threads: audio queue.
-/// Lifetime: destroying a player that sounds fades it out in about 2 ms.
+/// Units: `rate` 1 is the recorded speed, pitch follows; `volume` is linear 0…1; `pan` is −1 left … +1 right, 0 leaves both channels
+/// as they are; `eventTime` is in seconds on the platform's `Clock`, now when absent.
+struct Playback {
+    float rate = 1.0F;
+    float volume = 1.0F;
+    float pan = 0.0F;
+    std::optional<double> eventTime{};
+};
+
+/// A recording that was asked for. Threads: audio queue.
+/// Lifetime: destroying it while it sounds fades it out in about 2 ms.
 class AudioPlayer {
 public:
     virtual ~AudioPlayer() = default;
-
-    /// Makes `setRate` count; until then the rate is 1.
-    virtual void setEnableRate(bool isEnabled) = 0;
-    virtual void setRate(float rate) = 0;
-    virtual void setVolume(float volume) = 0;
-    virtual void setPan(float pan) = 0;
-
-    /// Does everything that `play` would otherwise have to do first.
-    virtual void prepareToPlay() = 0;
-
-    /// Starts the recording, as if it had been asked for at `eventTime` (seconds on the platform's `Clock`, now when absent):
-    /// two strokes sound exactly as far apart as their event times. A request more than 100 ms old stays silent.
-    virtual void play(std::optional<double> eventTime) = 0;
 };
 
+/// Plays recordings.
 class AudioPlayers {
 public:
     virtual ~AudioPlayers() = default;
 
-    /// Makes a player for the bytes of an audio file (WAV, MP3 or Ogg Vorbis); the same bytes are decoded once.
+    /// Plays the bytes of an audio file (WAV, MP3 or Ogg Vorbis) once, as if that had been asked for at the event time: two strokes
+    /// sound exactly as far apart as their event times. A request more than 100 ms old stays silent. The same bytes are decoded once.
     /// Threads: audio queue. Errors: the reason why the bytes cannot be decoded.
-    [[nodiscard]] virtual Result<std::unique_ptr<AudioPlayer>> make(const SharedBytes& data) = 0;
+    [[nodiscard]] virtual Result<std::unique_ptr<AudioPlayer>> play(const SharedBytes& data,
+                                                                    const Playback& playback) = 0;
 };
 
 } // namespace tocca::platform

@@ -1,9 +1,9 @@
 #include "Player/MixerAudioPlayers.h"
 
-#include "Player/MixerAudioPlayer.h"
 #include "Support/ThreadRole.h"
 
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 namespace tocca::player {
@@ -13,25 +13,49 @@ namespace {
 // Room for several packs: one of a hundred recordings of 0.3 s takes 5 MB.
 constexpr std::size_t kCacheBytes = std::size_t{16} << 20U;
 
+/// A request to the mixer, which ends with it.
+class MixerAudioPlayer final : public platform::AudioPlayer {
+public:
+    MixerAudioPlayer(Mixer& mixer, std::optional<VoiceTicket> ticket) noexcept
+        : mixer_(mixer)
+        , ticket_(ticket)
+    {}
+
+    MixerAudioPlayer(const MixerAudioPlayer&) = delete;
+    MixerAudioPlayer& operator=(const MixerAudioPlayer&) = delete;
+
+    ~MixerAudioPlayer() override
+    {
+        if (ticket_) {
+            mixer_.stop(*ticket_);
+        }
+    }
+
+private:
+    Mixer& mixer_;
+    const std::optional<VoiceTicket> ticket_;
+};
+
 } // namespace
 
-MixerAudioPlayers::MixerAudioPlayers(AudioOutput& output, const platform::Clock& clock, Mixer& mixer) noexcept
+MixerAudioPlayers::MixerAudioPlayers(AudioOutput& output, Mixer& mixer) noexcept
     : output_(output)
-    , clock_(clock)
     , mixer_(mixer)
     , cache_(kCacheBytes)
 {}
 
-Result<std::unique_ptr<platform::AudioPlayer>> MixerAudioPlayers::make(const SharedBytes& data)
+Result<std::unique_ptr<platform::AudioPlayer>> MixerAudioPlayers::play(const SharedBytes& data,
+                                                                       const platform::Playback& playback)
 {
-    requireThreadRole({ThreadRole::AudioQueue}, "AudioPlayers::make");
+    requireThreadRole({ThreadRole::AudioQueue}, "AudioPlayers::play");
     mixer_.reclaim();
     auto clip = cache_.find(data, output_.sampleRate());
     if (!clip) {
         return clip.error();
     }
+    output_.noteActivity();
     return std::unique_ptr<platform::AudioPlayer>(
-        std::make_unique<MixerAudioPlayer>(output_, clock_, mixer_, std::move(clip.value())));
+        std::make_unique<MixerAudioPlayer>(mixer_, mixer_.start(std::move(clip.value()), playback)));
 }
 
 } // namespace tocca::player

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Platform/AudioPlayer.h"
-#include "Platform/Clock.h"
 #include "Player/AudioOutput.h"
 #include "Player/Decoding/PcmCache.h"
 #include "Player/Mixing/Mixer.h"
@@ -10,20 +9,20 @@
 
 namespace tocca::player {
 
-/// Makes players that share a mixer and the recordings decoded for it.
+/// Plays recordings through a mixer.
 ///
-/// The first player for some bytes decodes them and converts them to the output's rate; later ones cost a look-up.
-/// Threads: audio queue.
-/// Lifetime: the output, the clock and the mixer must outlive it and its players.
+/// The first use of some bytes decodes them and converts them to the output's rate; later ones cost a look-up.
+/// Threads: audio queue; its players may also be destroyed on another thread once that queue has ended.
+/// Lifetime: the output and the mixer must outlive it and its players.
 class MixerAudioPlayers final : public platform::AudioPlayers {
 public:
-    MixerAudioPlayers(AudioOutput& output, const platform::Clock& clock, Mixer& mixer) noexcept;
+    MixerAudioPlayers(AudioOutput& output, Mixer& mixer) noexcept;
 
-    [[nodiscard]] Result<std::unique_ptr<platform::AudioPlayer>> make(const SharedBytes& data) override;
+    [[nodiscard]] Result<std::unique_ptr<platform::AudioPlayer>>
+    play(const SharedBytes& data, const platform::Playback& playback) override;
 
 private:
     AudioOutput& output_;
-    const platform::Clock& clock_;
     Mixer& mixer_;
     PcmCache cache_;
 };

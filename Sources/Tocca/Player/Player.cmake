@@ -16,7 +16,6 @@ endif()
 
 app_module(tocca_player
     UNITS
-        Player/MixerAudioPlayer
         Player/MixerAudioPlayers
         Player/Decoding/Decoder
         Player/Decoding/Downmix
@@ -37,7 +36,6 @@ app_module(tocca_player
     SOURCES ${processor_sources}
     HEADERS
         Player/Mixing/DenormalGuard.h
-        Player/Mixing/MixerStatistics.h
         Player/Mixing/SincKernelBody.h
         Player/Mixing/StrokeTrace.h
         Player/Mixing/VoiceRequest.h

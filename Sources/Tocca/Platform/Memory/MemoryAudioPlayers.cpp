@@ -10,9 +10,8 @@ namespace tocca::platform::memory {
 
 class MemoryAudioPlayers::Player : public AudioPlayer {
 public:
-    Player(std::shared_ptr<MemorySound> sound, VirtualTime& time)
+    explicit Player(std::shared_ptr<MemorySound> sound)
         : sound_(std::move(sound))
-        , time_(time)
     {}
 
     Player(const Player&) = delete;
@@ -20,48 +19,19 @@ public:
 
     ~Player() override { sound_->isReleased = true; }
 
-    void setEnableRate(bool isEnabled) override
-    {
-        isRateEnabled_ = isEnabled;
-        applyRate();
-    }
-
-    void setRate(float rate) override
-    {
-        rate_ = rate;
-        applyRate();
-    }
-
-    void setVolume(float volume) override { sound_->volume = volume; }
-
-    void setPan(float pan) override { sound_->pan = pan; }
-
-    void prepareToPlay() override { sound_->wasPrepared = true; }
-
-    void play(std::optional<double> eventTime) override
-    {
-        requireThreadRole({ThreadRole::AudioQueue}, "AudioPlayer::play");
-        sound_->startedAt = time_.now();
-        sound_->eventTime = eventTime;
-    }
-
 private:
-    void applyRate() { sound_->rate = isRateEnabled_ ? rate_ : 1.0F; }
-
     std::shared_ptr<MemorySound> sound_;
-    VirtualTime& time_;
-    bool isRateEnabled_ = false;
-    float rate_ = 1.0F;
 };
 
-Result<std::unique_ptr<AudioPlayer>> MemoryAudioPlayers::make(const SharedBytes& data)
+Result<std::unique_ptr<AudioPlayer>> MemoryAudioPlayers::play(const SharedBytes& data,
+                                                              const Playback& playback)
 {
-    requireThreadRole({ThreadRole::AudioQueue}, "AudioPlayers::make");
+    requireThreadRole({ThreadRole::AudioQueue}, "AudioPlayers::play");
     if (const auto bad = undecodable_.find(textOf(*data)); bad != undecodable_.end()) {
         return Error{bad->second};
     }
-    sounds_.push_back(std::make_shared<MemorySound>(MemorySound{.data = data}));
-    return std::unique_ptr<AudioPlayer>(std::make_unique<Player>(sounds_.back(), time_));
+    sounds_.push_back(std::make_shared<MemorySound>(MemorySound{playback, data}));
+    return std::unique_ptr<AudioPlayer>(std::make_unique<Player>(sounds_.back()));
 }
 
 } // namespace tocca::platform::memory

@@ -10,7 +10,6 @@ MemoryHost::MemoryHost()
     , serialQueues_(time_)
     , timers_(time_)
     , eventTaps_(time_, threads_)
-    , audioPlayers_(time_)
     , host_{
           .mainQueue = mainQueue_,
           .serialQueues = serialQueues_,

@@ -20,12 +20,6 @@ std::size_t fadeFrames(double sampleRate) noexcept
     return static_cast<std::size_t>(std::lround(kFadeSeconds * sampleRate));
 }
 
-// Each counter has one writer, so adding needs no locked instruction.
-void increment(std::atomic<std::uint64_t>& counter) noexcept
-{
-    counter.store(counter.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
-}
-
 } // namespace
 
 Mixer::Mixer(const platform::Clock& clock) noexcept
@@ -33,17 +27,13 @@ Mixer::Mixer(const platform::Clock& clock) noexcept
     , kernel_(bestSincKernel())
 {}
 
-std::optional<VoiceTicket> Mixer::start(VoiceRequest request)
+std::optional<VoiceTicket> Mixer::start(std::shared_ptr<const PcmClip> clip, platform::Playback playback)
 {
     const double now = clock_.now();
-    if (!(request.eventTime <= now + kFarthestSeconds)) {
-        request.eventTime = now;
+    if (!playback.eventTime || !(*playback.eventTime <= now + kFarthestSeconds)) {
+        playback.eventTime = now;
     }
-    const auto ticket = exchange_.submit(std::move(request));
-    if (!ticket) {
-        increment(refused_);
-    }
-    return ticket;
+    return exchange_.submit({.clip = std::move(clip), .playback = playback});
 }
 
 void Mixer::render(std::span<float> frames, const RenderCycle& cycle) noexcept
@@ -65,23 +55,11 @@ void Mixer::render(std::span<float> frames, const RenderCycle& cycle) noexcept
     limiter_.process(frames, cycle.sampleRate);
 }
 
-MixerStatistics Mixer::statistics() const noexcept
-{
-    return {.started = started_.load(std::memory_order_relaxed),
-            .late = late_.load(std::memory_order_relaxed),
-            .tooOld = tooOld_.load(std::memory_order_relaxed),
-            .stolen = stolen_.load(std::memory_order_relaxed),
-            .cut = cut_.load(std::memory_order_relaxed),
-            .refused = refused_.load(std::memory_order_relaxed)};
-}
-
 void Mixer::admitRequests(const RenderCycle& cycle) noexcept
 {
     while (const auto slot = exchange_.take()) {
-        if (exchange_.isCancelled(*slot)) {
-            exchange_.giveBack(*slot);
-        } else if (exchange_.request(*slot).eventTime < cycle.beginsAt - kOldestSeconds) {
-            increment(tooOld_);
+        if (exchange_.isCancelled(*slot) ||
+            exchange_.request(*slot).playback.eventTime < cycle.beginsAt - kOldestSeconds) {
             exchange_.giveBack(*slot);
         } else {
             admit(*slot, cycle);
@@ -93,24 +71,23 @@ void Mixer::admit(std::uint16_t slot, const RenderCycle& cycle) noexcept
 {
     makeRoom(cycle.sampleRate);
     const VoiceRequest& request = exchange_.request(slot);
+    const double eventTime = *request.playback.eventTime;
     voices_.add({.voice = Voice(request, cycle.sampleRate),
-                 .eventTime = request.eventTime,
-                 .startTime = request.eventTime + cycle.quantum / cycle.sampleRate,
+                 .eventTime = eventTime,
+                 .startTime = eventTime + cycle.quantum / cycle.sampleRate,
                  .slot = slot,
                  .hasBegun = false});
 }
 
 void Mixer::makeRoom(double sampleRate) noexcept
 {
-    if (voices_.steadyCount() >= kMaxVoices) {
+    if (voices_.steadyCount() >= platform::kMaxVoices) {
         voices_.oldest(false)->voice.fadeOut(fadeFrames(sampleRate));
-        increment(stolen_);
     }
     if (voices_.isFull()) {
         ActiveVoice* const fading = voices_.oldest(true);
         exchange_.giveBack(fading->slot);
         voices_.remove(fading);
-        increment(cut_);
     }
 }
 
@@ -136,10 +113,6 @@ bool Mixer::advance(ActiveVoice& active, std::span<float> frames, const RenderCy
 void Mixer::begin(ActiveVoice& active, double offset, const RenderCycle& cycle) noexcept
 {
     active.hasBegun = true;
-    increment(started_);
-    if (offset < 0.0) {
-        increment(late_);
-    }
     if (StrokeTrace* const trace = trace_.load(std::memory_order_acquire)) {
         trace->record({.eventTime = active.eventTime,
                        .renderedAt = renderedAt_,

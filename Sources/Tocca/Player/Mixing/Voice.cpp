@@ -25,7 +25,8 @@ constexpr double kFullBandStep = 1.08;
 
 double stepOf(const VoiceRequest& request, double outputRate) noexcept
 {
-    const float rate = std::isnan(request.rate) ? 1.0F : std::clamp(request.rate, kMinRate, kMaxRate);
+    const float wanted = request.playback.rate;
+    const float rate = std::isnan(wanted) ? 1.0F : std::clamp(wanted, kMinRate, kMaxRate);
     return std::min(static_cast<double>(rate) * (request.clip->sampleRate() / outputRate), kMaxStep);
 }
 
@@ -33,7 +34,7 @@ double stepOf(const VoiceRequest& request, double outputRate) noexcept
 
 Voice::Voice(const VoiceRequest& request, double outputRate) noexcept
     : clip_(request.clip.get())
-    , gains_(sideGains(request.volume, request.pan))
+    , gains_(sideGains(request.playback.volume, request.playback.pan))
 {
     const double step = stepOf(request, outputRate);
     step_ = std::max<std::uint64_t>(1, static_cast<std::uint64_t>(std::llround(step * kOneFrame)));

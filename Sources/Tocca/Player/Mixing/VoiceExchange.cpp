@@ -31,14 +31,9 @@ std::optional<VoiceTicket> VoiceExchange::submit(VoiceRequest request)
 
 void VoiceExchange::cancel(VoiceTicket ticket) noexcept
 {
-    if (isOut(ticket)) {
+    if (slots_[ticket.slot].serial == ticket.serial) {
         slots_[ticket.slot].isCancelled.store(true, std::memory_order_relaxed);
     }
-}
-
-bool VoiceExchange::isOut(VoiceTicket ticket) const noexcept
-{
-    return slots_[ticket.slot].serial == ticket.serial;
 }
 
 void VoiceExchange::reclaim() noexcept

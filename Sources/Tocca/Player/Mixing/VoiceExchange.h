@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Player/Mixing/VoiceList.h"
 #include "Player/Mixing/VoiceRequest.h"
 #include "Support/Realtime.h"
 #include "Support/SpscRing.h"
@@ -23,11 +24,12 @@ struct VoiceTicket {
 ///
 /// Requests lie in a fixed number of slots, and what travels is a slot's number; since either ring has room for all
 /// slots, neither can be full, and a cancellation, being a flag, cannot be lost.
-/// Threads: `submit`, `cancel`, `isOut`, `reclaim`: audio queue. The others: render.
+/// Threads: `submit`, `cancel`, `reclaim`: audio queue. The others: render.
 /// Real-time: the render thread's members are wait-free.
 class VoiceExchange {
 public:
-    static constexpr std::size_t kSlots = 256;
+    /// Those that the render thread mixes, and as many that are on the way to it or back.
+    static constexpr std::size_t kSlots = 2 * VoiceList::kCapacity;
 
     VoiceExchange();
 
@@ -36,8 +38,6 @@ public:
 
     /// Asks the render thread to end the request; does nothing when it is back already.
     void cancel(VoiceTicket ticket) noexcept;
-
-    [[nodiscard]] bool isOut(VoiceTicket ticket) const noexcept;
 
     /// Frees what the render thread has given back.
     void reclaim() noexcept;

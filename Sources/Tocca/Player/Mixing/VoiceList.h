@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/AudioPlayer.h"
 #include "Player/Mixing/Voice.h"
 #include "Support/Realtime.h"
 
@@ -23,7 +24,8 @@ struct ActiveVoice {
 /// Threads: render. Real-time: every member is wait-free.
 class VoiceList {
 public:
-    static constexpr std::size_t kCapacity = 64;
+    /// Each voice may still be fading out while another one has its place.
+    static constexpr std::size_t kCapacity = 2 * platform::kMaxVoices;
 
     [[nodiscard]] std::span<ActiveVoice> all() noexcept REALTIME { return std::span(voices_).first(count_); }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/AudioPlayer.h"
 #include "Player/Decoding/PcmClip.h"
 
 #include <memory>
@@ -7,15 +8,9 @@
 namespace tocca::player {
 
 /// One recording to be sounded once.
-///
-/// Units: `eventTime` is in seconds on the platform's clock; `rate` 1 is the recorded speed, pitch follows; `volume` is
-/// linear 0…1; `pan` is −1 left … +1 right.
 struct VoiceRequest {
     std::shared_ptr<const PcmClip> clip;
-    double eventTime = 0.0;
-    float rate = 1.0F;
-    float volume = 1.0F;
-    float pan = 0.0F;
+    platform::Playback playback; ///< with an event time
 };
 
 } // namespace tocca::player
