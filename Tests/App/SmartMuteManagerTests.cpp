@@ -9,6 +9,7 @@
 namespace tocca::app {
 namespace {
 
+using platform::ApplicationKind;
 using platform::RunningApplication;
 using platform::memory::MemoryHost;
 
@@ -55,6 +56,9 @@ TEST_F(SmartMuteTest, JudgesWhoeverComesToTheFront)
         {{.bundleIdentifier = {}, .localizedName = "Keychain Helper"}, "Privacy • Keychain Helper active"},
         {kCall, "Call App Active • zoom"},
         {{.bundleIdentifier = "com.apple.facetime", .localizedName = {}}, "Call App Active • Call"},
+        {{.bundleIdentifier = "org.example.vault", .kind = ApplicationKind::passwordStore},
+         "Privacy • Password Manager active"},
+        {{.bundleIdentifier = "org.example.calls", .kind = ApplicationKind::call}, "Call App Active • Call"},
         {{.bundleIdentifier = {}, .localizedName = "zoom"}, "audible"},
         {{.bundleIdentifier = "com.discord.canary", .localizedName = "Discord"}, "audible"},
         {{}, "audible"},

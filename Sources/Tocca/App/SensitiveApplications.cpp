@@ -1,5 +1,7 @@
 #include "App/SensitiveApplications.h"
 
+#include "Support/LowerCase.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -27,14 +29,6 @@ constexpr std::array<std::string_view, 9> kCallBundleIdentifiers{
     "com.cisco.webexmeetingsapp",
 };
 
-std::string lowerCased(std::string_view text)
-{
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
-
 bool contains(std::span<const std::string_view> identifiers, const platform::RunningApplication& application)
 {
     const std::string id = lowerCased(application.bundleIdentifier.value_or(""));
@@ -47,13 +41,15 @@ bool contains(std::span<const std::string_view> identifiers, const platform::Run
 bool isSensitiveApplication(const platform::RunningApplication& application)
 {
     const std::string name = lowerCased(application.localizedName.value_or(""));
-    return contains(kSensitiveBundleIdentifiers, application) || name.find("password") != std::string::npos ||
+    return application.kind == platform::ApplicationKind::passwordStore ||
+           contains(kSensitiveBundleIdentifiers, application) || name.find("password") != std::string::npos ||
            name.find("keychain") != std::string::npos;
 }
 
 bool isCallApplication(const platform::RunningApplication& application)
 {
-    return contains(kCallBundleIdentifiers, application);
+    return application.kind == platform::ApplicationKind::call ||
+           contains(kCallBundleIdentifiers, application);
 }
 
 } // namespace tocca::app

@@ -4,11 +4,11 @@
 
 namespace tocca::app {
 
-/// Whether the application keeps secrets: a password manager or key chain, by identifier or by a word in its name.
+/// Whether the application keeps secrets: a password manager or key chain, by its kind, its identifier or a word in its name.
 /// Threads: any.
 [[nodiscard]] bool isSensitiveApplication(const platform::RunningApplication& application);
 
-/// Whether the application makes calls, by identifier alone. Threads: any.
+/// Whether the application makes calls, by its kind or its identifier. Threads: any.
 [[nodiscard]] bool isCallApplication(const platform::RunningApplication& application);
 
 } // namespace tocca::app

@@ -1,5 +1,7 @@
 #include "Audio/SoundSlot.h"
 
+#include "Support/LowerCase.h"
+
 #include <algorithm>
 #include <string>
 
@@ -13,14 +15,6 @@ constexpr std::array<std::string_view, SoundSlot::kCount> kKeys{
 };
 
 constexpr std::array<std::string_view, 3> kExtensions{".mp3", ".wav", ".ogg"};
-
-std::string lowerCased(std::string_view text)
-{
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 SoundSlot::Sound soundOf(KeyCategory category) noexcept
 {

@@ -25,15 +25,19 @@ protected:
         TemporaryDirectory::write(file, "[Desktop Entry]\nName=" + name + "\n" + more + "\n");
     }
 
-    /// "identifier (name)".
+    /// "identifier (name)", and what it is for.
     std::string known(const WindowOwner& owner)
     {
         const auto application = applicationOf(owner, entries_);
         if (!application) {
             return "nobody";
         }
+        const auto kind = application->kind;
         return application->bundleIdentifier.value_or("?") + " (" + application->localizedName.value_or("?") +
-               ')';
+               ')' +
+               (kind == ApplicationKind::call            ? " for calls"
+                : kind == ApplicationKind::passwordStore ? " for passwords"
+                                                         : "");
     }
 
     TemporaryDirectory own_;
@@ -58,18 +62,20 @@ TEST_F(WindowOwnerTest, IsFoundByWhateverTellsMost)
         // NOLINT(modernize-avoid-c-arrays)
         {"end of an entry's id",
          {{}, {"keepassxc", "KeePassXC"}, ""},
-         "com.apple.keychainaccess (KeePassXC)"},
+         "org.keepassxc.KeePassXC (KeePassXC) for passwords"},
         {"application id",
          {{"", "", "org.gnome.seahorse.Application"}, {"seahorse", "Seahorse"}, ""},
-         "com.apple.keychainaccess (Passwords and Keys)"},
+         "org.gnome.seahorse.Application (Passwords and Keys) for passwords"},
         {"class that the entry names",
          {{}, {"crx_abc", "Google-chrome"}, "chrome"},
          "chrome-abc-Default (Video Calls)"},
         {"id with its folder", {{"kde4-dolphin"}, {"dolphin", "Dolphin"}, ""}, "kde4-dolphin (Dolphin)"},
-        {"sandbox before class", {{"us.zoom.Zoom"}, {"editor", "Editor"}, ""}, "us.zoom.xos (Zoom)"},
-        {"Snap", {{"discord_discord"}, {"discord", "discord"}, ""}, "com.discord (discord)"},
-        {"class alone", {{}, {"slack", "Slack"}, ""}, "com.tinyspeck.slackmacgap (Slack)"},
-        {"executable alone", {{}, {"main", "Window"}, "teams-for-linux"}, "com.microsoft.teams2 (Window)"},
+        {"sandbox before class",
+         {{"us.zoom.Zoom"}, {"editor", "Editor"}, ""},
+         "us.zoom.Zoom (Zoom) for calls"},
+        {"Snap", {{"discord_discord"}, {"discord", "discord"}, ""}, "discord_discord (discord) for calls"},
+        {"class alone", {{}, {"slack", "Slack"}, ""}, "Slack (Slack) for calls"},
+        {"executable alone", {{}, {"main", "Window"}, "teams-for-linux"}, "Window (Window) for calls"},
         {"unknown class", {{}, {"xterm", "XTerm"}, "xterm"}, "XTerm (XTerm)"},
         {"unknown id", {{"org.example.Thing"}, {"thing", "Thing"}, ""}, "org.example.Thing (Thing)"},
         {"nothing", {{"", ""}, {"", ""}, ""}, "nobody"},

@@ -76,12 +76,12 @@ TEST_F(WorkspaceTest, TellsWhoComesToTheFrontAndWhatTheyAreCalled)
     XWindow editor({.instance = "editor", .className = "Editor"});
     vault.publishAs(kActive);
     start();
-    EXPECT_TRUE(hears({"com.apple.keychainaccess Schlüsselbund"}));
+    EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund"}));
     another.publishAs(kActive); // another window of the program in front
     editor.publishAs(kActive);
-    EXPECT_TRUE(hears({"com.apple.keychainaccess Schlüsselbund", "Editor Editor"}));
+    EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund", "Editor Editor"}));
     editor.withdraw(kActive);
-    EXPECT_TRUE(hears({"com.apple.keychainaccess Schlüsselbund", "Editor Editor", "nobody"}));
+    EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund", "Editor Editor", "nobody"}));
 
     activations_.reset();
     vault.publishAs(kActive);

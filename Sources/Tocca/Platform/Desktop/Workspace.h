@@ -2,17 +2,22 @@
 
 #include "Support/Subscription.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 
 namespace tocca::platform {
 
+/// What a program is for, as far as that matters here and the desktop can tell.
+enum class ApplicationKind : std::uint8_t { other, passwordStore, call };
+
 /// A program with windows, as the desktop knows it.
 struct RunningApplication {
     std::optional<std::string>
         bundleIdentifier; ///< as in Platform/README.md; none when the program is not known
-    std::optional<std::string> localizedName; ///< the program's own name, for people
+    std::optional<std::string> localizedName{}; ///< the program's own name, for people
+    ApplicationKind kind = ApplicationKind::other;
 
     bool operator==(const RunningApplication&) const = default;
 };

@@ -30,7 +30,6 @@ app_module(tocca_linux_system
         Platform/Linux/System/Files/SystemCalls.h
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxHaptics.h
-        Platform/Linux/System/LowerCase.h
         Platform/Linux/System/SecureInput.h
         Platform/Linux/System/Threads/Doorbell.h
     DEPENDS tocca_platform)

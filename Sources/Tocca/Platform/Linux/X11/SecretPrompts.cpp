@@ -1,6 +1,6 @@
 #include "Platform/Linux/X11/SecretPrompts.h"
 
-#include "Platform/Linux/System/LowerCase.h"
+#include "Support/LowerCase.h"
 
 #include <algorithm>
 #include <array>

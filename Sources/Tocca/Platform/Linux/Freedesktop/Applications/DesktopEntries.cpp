@@ -1,7 +1,7 @@
 #include "Platform/Linux/Freedesktop/Applications/DesktopEntries.h"
 
 #include "Platform/Linux/System/Files/LinuxDirectories.h"
-#include "Platform/Linux/System/LowerCase.h"
+#include "Support/LowerCase.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,96 +1,83 @@
 #include "Platform/Linux/Freedesktop/Applications/KnownApplications.h"
 
-#include "Platform/Linux/System/LowerCase.h"
+#include "Support/LowerCase.h"
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace tocca::platform::linux {
 
 namespace {
 
-struct KnownApplication {
-    std::string_view name; ///< in lower case
-    std::string_view identifier;
-};
+// In lower case.
+constexpr std::array<std::string_view, 21> kPasswordStores{"1password",
+                                                           "com.onepassword.onepassword",
+                                                           "bitwarden",
+                                                           "com.bitwarden.desktop",
+                                                           "lastpass",
+                                                           "keepass",
+                                                           "keepass2",
+                                                           "keepassxc",
+                                                           "org.keepassxc.keepassxc",
+                                                           "kwalletmanager",
+                                                           "kwalletmanager5",
+                                                           "org.kde.kwalletmanager",
+                                                           "org.kde.kwalletmanager5",
+                                                           "org.gnome.seahorse.application",
+                                                           "seahorse",
+                                                           "org.gnome.passwordsafe",
+                                                           "org.gnome.world.secrets",
+                                                           "secrets",
+                                                           "org.ijhack.qtpass",
+                                                           "qtpass",
+                                                           "pwsafe"};
+constexpr std::array<std::string_view, 24> kCalls{"us.zoom.zoom",
+                                                  "zoom",
+                                                  "zoom-client",
+                                                  "com.microsoft.teams",
+                                                  "microsoft teams - preview",
+                                                  "teams",
+                                                  "com.github.ismaelmartinez.teams_for_linux",
+                                                  "teams-for-linux",
+                                                  "com.slack.slack",
+                                                  "slack",
+                                                  "com.discordapp.discord",
+                                                  "com.discordapp.discordcanary",
+                                                  "dev.vencord.vesktop",
+                                                  "discord",
+                                                  "discordcanary",
+                                                  "discordptb",
+                                                  "vesktop",
+                                                  "webcord",
+                                                  "com.skype.client",
+                                                  "skype",
+                                                  "skypeforlinux",
+                                                  "ciscocollabhost",
+                                                  "webex",
+                                                  "org.gnome.calls"};
 
-/// Where the same program runs here under other names, or where one of this desktop has the part of one elsewhere: its
-/// password stores are the key chain, its own telephone is FaceTime.
-constexpr std::array kApplications{
-    // 1Password
-    KnownApplication{"1password", "com.1password.1password"},
-    KnownApplication{"com.onepassword.onepassword", "com.1password.1password"},
-    // Bitwarden
-    KnownApplication{"bitwarden", "com.bitwarden.desktop"},
-    KnownApplication{"com.bitwarden.desktop", "com.bitwarden.desktop"},
-    // LastPass
-    KnownApplication{"lastpass", "com.lastpass.LastPass"},
-
-    // Password stores of this desktop
-    KnownApplication{"keepass", "com.apple.keychainaccess"},
-    KnownApplication{"keepass2", "com.apple.keychainaccess"},
-    KnownApplication{"keepassxc", "com.apple.keychainaccess"},
-    KnownApplication{"org.keepassxc.keepassxc", "com.apple.keychainaccess"},
-    KnownApplication{"kwalletmanager", "com.apple.keychainaccess"},
-    KnownApplication{"kwalletmanager5", "com.apple.keychainaccess"},
-    KnownApplication{"org.kde.kwalletmanager", "com.apple.keychainaccess"},
-    KnownApplication{"org.kde.kwalletmanager5", "com.apple.keychainaccess"},
-    KnownApplication{"org.gnome.seahorse.application", "com.apple.keychainaccess"},
-    KnownApplication{"seahorse", "com.apple.keychainaccess"},
-    KnownApplication{"org.gnome.passwordsafe", "com.apple.keychainaccess"},
-    KnownApplication{"org.gnome.world.secrets", "com.apple.keychainaccess"},
-    KnownApplication{"secrets", "com.apple.keychainaccess"},
-    KnownApplication{"org.ijhack.qtpass", "com.apple.keychainaccess"},
-    KnownApplication{"qtpass", "com.apple.keychainaccess"},
-    KnownApplication{"pwsafe", "com.apple.keychainaccess"},
-
-    // Zoom
-    KnownApplication{"us.zoom.zoom", "us.zoom.xos"},
-    KnownApplication{"zoom", "us.zoom.xos"},
-    KnownApplication{"zoom-client", "us.zoom.xos"},
-    // Teams: Microsoft's former client, and the one that is kept up for it
-    KnownApplication{"com.microsoft.teams", "com.microsoft.teams"},
-    KnownApplication{"microsoft teams - preview", "com.microsoft.teams"},
-    KnownApplication{"teams", "com.microsoft.teams"},
-    KnownApplication{"com.github.ismaelmartinez.teams_for_linux", "com.microsoft.teams2"},
-    KnownApplication{"teams-for-linux", "com.microsoft.teams2"},
-    // Slack
-    KnownApplication{"com.slack.slack", "com.tinyspeck.slackmacgap"},
-    KnownApplication{"slack", "com.tinyspeck.slackmacgap"},
-    // Discord, its test versions and other clients of it
-    KnownApplication{"com.discordapp.discord", "com.discord"},
-    KnownApplication{"com.discordapp.discordcanary", "com.discord"},
-    KnownApplication{"dev.vencord.vesktop", "com.discord"},
-    KnownApplication{"discord", "com.discord"},
-    KnownApplication{"discordcanary", "com.discord"},
-    KnownApplication{"discordptb", "com.discord"},
-    KnownApplication{"vesktop", "com.discord"},
-    KnownApplication{"webcord", "com.discord"},
-    // Skype
-    KnownApplication{"com.skype.client", "com.skype.skype"},
-    KnownApplication{"skype", "com.skype.skype"},
-    KnownApplication{"skypeforlinux", "com.skype.skype"},
-    // Webex, whose program has another name
-    KnownApplication{"ciscocollabhost", "com.cisco.webexmeetingsapp"},
-    KnownApplication{"webex", "com.cisco.webexmeetingsapp"},
-    // This desktop's own telephone
-    KnownApplication{"org.gnome.calls", "com.apple.FaceTime"},
-};
+ApplicationKind kindOfLowerCased(std::string_view name)
+{
+    const auto isIn = [name](const auto& names) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    if (isIn(kPasswordStores)) {
+        return ApplicationKind::passwordStore;
+    }
+    return isIn(kCalls) ? ApplicationKind::call : ApplicationKind::other;
+}
 
 } // namespace
 
-std::optional<std::string> knownApplication(std::string_view name)
+ApplicationKind kindOfApplication(std::string_view name)
 {
-    const std::string wanted = lowerCased(name);
-    const auto find = [](std::string_view text) {
-        return std::find_if(kApplications.begin(), kApplications.end(),
-                            [text](const KnownApplication& known) { return known.name == text; });
-    };
-    auto known = find(wanted);
-    if (known == kApplications.end()) {
-        known = find(std::string_view(wanted).substr(0, wanted.find('_'))); // a Snap's: <snap>_<application>
-    }
-    return known != kApplications.end() ? std::optional(std::string(known->identifier)) : std::nullopt;
+    const std::string lower = lowerCased(name);
+    const auto kind = kindOfLowerCased(lower);
+    // A Snap's window is called <snap>_<application>.
+    return kind == ApplicationKind::other
+               ? kindOfLowerCased(std::string_view(lower).substr(0, lower.find('_')))
+               : kind;
 }
 
 } // namespace tocca::platform::linux

@@ -2,9 +2,6 @@
 
 #include "Platform/Linux/Freedesktop/Applications/KnownApplications.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace tocca::platform::linux {
 
 namespace {
@@ -39,14 +36,10 @@ std::optional<RunningApplication> applicationOf(const WindowOwner& owner, Deskto
     if (names.empty()) {
         return std::nullopt;
     }
-    RunningApplication running{.bundleIdentifier = application ? application->id : names.front(),
-                               .localizedName = std::nullopt};
+    RunningApplication running{.bundleIdentifier = application ? application->id : names.front()};
     names.push_back(owner.executable);
-    for (const std::string& name : names) {
-        if (auto identifier = knownApplication(name)) {
-            running.bundleIdentifier = std::move(identifier);
-            break;
-        }
+    for (auto name = names.begin(); name != names.end() && running.kind == ApplicationKind::other; ++name) {
+        running.kind = kindOfApplication(*name);
     }
     if (application) {
         running.localizedName = entries.nameOf(*application);

@@ -19,8 +19,8 @@ struct WindowOwner {
 
 /// The application that a window belongs to; nothing when the window says nothing about it.
 ///
-/// Its identifier is the platform's for a program in the table of known applications, else the id of its desktop entry, else what the
-/// window calls itself. Its name is the desktop entry's, else the window class.
+/// Its identifier is the id of its desktop entry, else what the window calls itself. Its name is the desktop entry's, else the window
+/// class.
 [[nodiscard]] std::optional<RunningApplication> applicationOf(const WindowOwner& owner,
                                                               DesktopEntries& entries);
 

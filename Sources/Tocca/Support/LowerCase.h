@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tocca::platform::linux {
+namespace tocca {
 
 /// `text` with its ASCII letters in lower case, whatever the locale.
 [[nodiscard]] inline std::string lowerCased(std::string_view text)
@@ -15,4 +15,4 @@ namespace tocca::platform::linux {
     return lower;
 }
 
-} // namespace tocca::platform::linux
+} // namespace tocca
