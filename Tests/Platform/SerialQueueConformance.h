@@ -70,23 +70,20 @@ TYPED_TEST_P(SerialQueueConformance, RunsATaskPostedByATaskAfterItHasEnded)
     EXPECT_EQ(overlaps, 0);
 }
 
-TYPED_TEST_P(SerialQueueConformance, GivesUpTheOldestTasksUnderOverloadAndCountsThem)
+TYPED_TEST_P(SerialQueueConformance, GivesUpTheOldestTasksUnderOverload)
 {
     constexpr int kTasks = 20000;
-    std::atomic<int> ran{0};
     std::atomic<int> last{-1};
     std::atomic<int> outOfOrder{0};
     const auto queue = this->make();
     for (int i = 0; i < kTasks; ++i) {
         queue->post([&, i] {
             outOfOrder += i <= last ? 1 : 0;
-            ++ran;
             last = i; // ends the wait below
         });
     }
     ASSERT_TRUE(this->machine_.runUntil([&] { return last == kTasks - 1; })) << "the newest task never ran";
     EXPECT_EQ(outOfOrder, 0);
-    EXPECT_EQ(static_cast<std::uint64_t>(ran) + queue->dropped(), static_cast<std::uint64_t>(kTasks));
 }
 
 TYPED_TEST_P(SerialQueueConformance, RunsNothingAfterDestructionAndReleasesWhatTasksHold)
@@ -110,8 +107,7 @@ TYPED_TEST_P(SerialQueueConformance, RunsNothingAfterDestructionAndReleasesWhatT
 }
 
 REGISTER_TYPED_TEST_SUITE_P(SerialQueueConformance, RunsTasksInPostingOrderUnderTheRoleItWasMadeFor,
-                            RunsATaskPostedByATaskAfterItHasEnded,
-                            GivesUpTheOldestTasksUnderOverloadAndCountsThem,
+                            RunsATaskPostedByATaskAfterItHasEnded, GivesUpTheOldestTasksUnderOverload,
                             RunsNothingAfterDestructionAndReleasesWhatTasksHold);
 
 } // namespace tocca::platform

@@ -3,7 +3,6 @@
 #include "Support/Executor.h"
 #include "Support/ThreadRole.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -11,13 +10,9 @@ namespace tocca::platform {
 
 /// One thread that runs tasks in posting order.
 ///
-/// Real-time: `post` never allocates, locks or waits; a full queue drops its oldest task and counts it.
+/// Real-time: `post` never allocates, locks or waits; a full queue drops its oldest task.
 /// Lifetime: destruction waits for the running task and drops the others. Never destroy a queue from its own task.
-class SerialQueue : public Executor {
-public:
-    /// How many tasks were dropped because the queue was full. Threads: any.
-    [[nodiscard]] virtual std::uint64_t dropped() const noexcept = 0;
-};
+class SerialQueue : public Executor {};
 
 /// What a queue's thread is called and treated like.
 struct SerialQueueOptions {

@@ -16,7 +16,7 @@ namespace tocca {
 /// Threads: every member: any.
 /// Order: the items of one thread come out in the order they went in.
 /// Real-time: `tryPush`, `tryPop` and `pushDroppingOldest` never allocate, lock or wait; storage is fixed at construction.
-/// Errors: a full queue refuses (`tryPush`) or gives up its oldest item and counts it (`pushDroppingOldest`).
+/// Errors: a full queue refuses (`tryPush`) or gives up its oldest item (`pushDroppingOldest`).
 /// Source: D. Vyukov, "Bounded MPMC queue", 2010.
 template <class T>
 class BoundedQueue {
@@ -75,23 +75,20 @@ public:
         }
     }
 
-    /// Pushes `item`, dropping the oldest items while the queue is full; gives up after a few contended rounds.
-    void pushDroppingOldest(T item) noexcept REALTIME
+    /// Pushes `item`, dropping the oldest items while the queue is full; gives `item` up after a few contended rounds.
+    /// Returns how many items were lost.
+    int pushDroppingOldest(T item) noexcept REALTIME
     {
+        int lost = 0;
         for (int round = 0; round < kRounds; ++round) {
             if (tryPush(item)) {
-                return;
+                return lost;
             }
             T oldest;
-            if (tryPop(oldest)) {
-                dropped_.fetch_add(1, std::memory_order_relaxed);
-            }
+            lost += tryPop(oldest) ? 1 : 0;
         }
-        dropped_.fetch_add(1, std::memory_order_relaxed);
+        return lost + 1;
     }
-
-    /// How many items `pushDroppingOldest` has given up so far.
-    [[nodiscard]] std::uint64_t dropped() const noexcept { return dropped_.load(std::memory_order_relaxed); }
 
 private:
     static constexpr int kRounds = 16;
@@ -105,7 +102,6 @@ private:
     const std::unique_ptr<Cell[]> cells_; // NOLINT(modernize-avoid-c-arrays)
     alignas(64) std::atomic<std::size_t> head_{0};
     alignas(64) std::atomic<std::size_t> tail_{0};
-    alignas(64) std::atomic<std::uint64_t> dropped_{0};
 };
 
 } // namespace tocca

@@ -2,7 +2,7 @@
 
 namespace tocca {
 
-/// How a spring moves. Units: `response` in seconds, the period it would have undamped; `dampingFraction` 1 is critical.
+/// How a spring moves. Units: `response` in seconds, the period it would have undamped; `dampingFraction` is 0…1, 1 is critical.
 struct SpringParameters {
     double response = 0.5;
     double dampingFraction = 1;
@@ -28,8 +28,6 @@ public:
     void snapTo(double value) noexcept;
 
     [[nodiscard]] double valueAt(double now) const noexcept { return target_ + stateAt(now).offset; }
-
-    [[nodiscard]] double velocityAt(double now) const noexcept { return stateAt(now).velocity; }
 
     [[nodiscard]] double target() const noexcept { return target_; }
 

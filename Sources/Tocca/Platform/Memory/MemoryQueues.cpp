@@ -41,12 +41,9 @@ public:
     {
         if (state_->tasks.size() == kCapacity) {
             state_->tasks.pop_front();
-            ++state_->dropped;
         }
         state_->tasks.push_back(std::move(task));
     }
-
-    [[nodiscard]] std::uint64_t dropped() const noexcept override { return state_->dropped; }
 
 private:
     std::shared_ptr<State> state_;

@@ -47,7 +47,6 @@ private:
     struct State {
         SerialQueueOptions options;
         std::deque<Task> tasks;
-        std::uint64_t dropped = 0;
     };
     class Queue;
 

@@ -38,8 +38,6 @@ public:
         bell_.ring();
     }
 
-    [[nodiscard]] std::uint64_t dropped() const noexcept override { return tasks_.dropped(); }
-
 private:
     void work()
     {
