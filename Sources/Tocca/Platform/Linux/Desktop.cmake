@@ -11,6 +11,7 @@ app_module(tocca_linux_x11
         Platform/Linux/X11/SelectionWatch
         Platform/Linux/X11/WindowFacts
         Platform/Linux/X11/WindowRequests
+        Platform/Linux/X11/XConnection
         Platform/Linux/X11/XQuestions
         Platform/Linux/X11/Input/KeyRoles
         Platform/Linux/X11/Input/KeyboardState

@@ -1,7 +1,6 @@
 #include "Platform/Linux/Tray/EmbeddedIcon.h"
 
 #include "Platform/Linux/System/ApplicationId.h"
-#include "Platform/Linux/X11/XReply.h"
 
 #include <algorithm>
 #include <array>
@@ -36,25 +35,19 @@ std::uint32_t blend(std::uint32_t source, std::uint32_t ground)
 
 std::unique_ptr<EmbeddedIcon> EmbeddedIcon::dock(xcb_window_t tray, Painter painter, Observers observers)
 {
-    int screenNumber = 0;
-    Connection connection(xcb_connect(nullptr, &screenNumber));
-    if (xcb_connection_has_error(connection.get()) != 0) {
+    auto connection = XConnection::open();
+    if (!connection) {
         return nullptr;
-    }
-    auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
-    for (int number = 0; number < screenNumber && screen.rem > 1; ++number) {
-        xcb_screen_next(&screen);
     }
     // Not make_unique: the constructor is private.
     std::unique_ptr<EmbeddedIcon> icon(
-        new EmbeddedIcon(std::move(connection), *screen.data, std::move(painter), std::move(observers)));
+        new EmbeddedIcon(std::move(*connection), std::move(painter), std::move(observers)));
     icon->create(tray);
     return icon;
 }
 
-EmbeddedIcon::EmbeddedIcon(Connection connection, xcb_screen_t& screen, Painter painter, Observers observers)
+EmbeddedIcon::EmbeddedIcon(XConnection connection, Painter painter, Observers observers)
     : connection_(std::move(connection))
-    , screen_(screen)
     , painter_(std::move(painter))
     , observers_(std::move(observers))
 {}
@@ -65,7 +58,7 @@ void EmbeddedIcon::create(xcb_window_t tray)
     surface_ = surfaceOf(tray);
     const bool isArgb = surface_.depth == kArgbDepth;
     const xcb_colormap_t colours = xcb_generate_id(connection);
-    xcb_create_colormap(connection, XCB_COLORMAP_ALLOC_NONE, colours, screen_.root, surface_.visual);
+    xcb_create_colormap(connection, XCB_COLORMAP_ALLOC_NONE, colours, connection_.root(), surface_.visual);
     window_ = xcb_generate_id(connection);
     // Without transparency the tray's own ground shows through.
     const std::array<std::uint32_t, 4> values{
@@ -73,8 +66,8 @@ void EmbeddedIcon::create(xcb_window_t tray)
         XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_BUTTON_PRESS |
             XCB_EVENT_MASK_BUTTON_RELEASE,
         colours};
-    xcb_create_window(connection, surface_.depth, window_, screen_.root, 0, 0, kFirstSize, kFirstSize, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, surface_.visual,
+    xcb_create_window(connection, surface_.depth, window_, connection_.root(), 0, 0, kFirstSize, kFirstSize,
+                      0, XCB_WINDOW_CLASS_INPUT_OUTPUT, surface_.visual,
                       XCB_CW_BACK_PIXMAP | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                       values.data());
     context_ = xcb_generate_id(connection);
@@ -87,7 +80,7 @@ void EmbeddedIcon::create(xcb_window_t tray)
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
                         kName.size(), kName.data());
     constexpr std::array<std::uint32_t, 2> kEmbedding{0, 1}; // the protocol's version; to be shown
-    const xcb_atom_t embedding = atom("_XEMBED_INFO");
+    const xcb_atom_t embedding = atomOf(connection, "_XEMBED_INFO");
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window_, embedding, embedding, kWordBits,
                         kEmbedding.size(), kEmbedding.data());
     // A tray that dies leaves the icon behind, so the tray is watched as well.
@@ -99,7 +92,7 @@ void EmbeddedIcon::create(xcb_window_t tray)
     request.response_type = XCB_CLIENT_MESSAGE;
     request.format = kWordBits;
     request.window = tray;
-    request.type = atom("_NET_SYSTEM_TRAY_OPCODE");
+    request.type = atomOf(connection, "_NET_SYSTEM_TRAY_OPCODE");
     request.data.data32[1] = kRequestDock;
     request.data.data32[2] = window_;
     xcb_send_event(connection, 0, tray, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&request));
@@ -108,16 +101,18 @@ void EmbeddedIcon::create(xcb_window_t tray)
 
 EmbeddedIcon::Surface EmbeddedIcon::surfaceOf(xcb_window_t tray) const
 {
-    const auto cookie = xcb_get_property(connection_.get(), 0, tray, atom("_NET_SYSTEM_TRAY_VISUAL"),
-                                         XCB_ATOM_VISUALID, 0, 1);
+    const auto cookie =
+        xcb_get_property(connection_.get(), 0, tray, atomOf(connection_.get(), "_NET_SYSTEM_TRAY_VISUAL"),
+                         XCB_ATOM_VISUALID, 0, 1);
     const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_.get(), cookie, nullptr));
-    Surface surface{screen_.root_visual, screen_.root_depth};
+    Surface surface{connection_.screen().root_visual, connection_.screen().root_depth};
     if (!reply || reply->format != kWordBits || xcb_get_property_value_length(reply.get()) == 0) {
         return surface;
     }
     xcb_visualid_t wanted = 0;
     std::memcpy(&wanted, xcb_get_property_value(reply.get()), sizeof(wanted));
-    for (auto depth = xcb_screen_allowed_depths_iterator(&screen_); depth.rem > 0; xcb_depth_next(&depth)) {
+    for (auto depth = xcb_screen_allowed_depths_iterator(&connection_.screen()); depth.rem > 0;
+         xcb_depth_next(&depth)) {
         for (auto visual = xcb_depth_visuals_iterator(depth.data); visual.rem > 0;
              xcb_visualtype_next(&visual)) {
             if (visual.data->visual_id == wanted) {
@@ -126,14 +121,6 @@ EmbeddedIcon::Surface EmbeddedIcon::surfaceOf(xcb_window_t tray) const
         }
     }
     return surface;
-}
-
-xcb_atom_t EmbeddedIcon::atom(const char* name) const
-{
-    const auto cookie =
-        xcb_intern_atom(connection_.get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name);
-    const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 void EmbeddedIcon::repaint()
@@ -170,7 +157,7 @@ std::optional<EmbeddedIcon::Place> EmbeddedIcon::place() const
     if (!isShown_ || isLost_) {
         return std::nullopt;
     }
-    const auto cookie = xcb_translate_coordinates(connection_.get(), window_, screen_.root, 0, 0);
+    const auto cookie = xcb_translate_coordinates(connection_.get(), window_, connection_.root(), 0, 0);
     const XReply<xcb_translate_coordinates_reply_t> reply(
         xcb_translate_coordinates_reply(connection_.get(), cookie, nullptr));
     if (!reply) {
@@ -181,16 +168,15 @@ std::optional<EmbeddedIcon::Place> EmbeddedIcon::place() const
 
 bool EmbeddedIcon::serve()
 {
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
+    while (const auto event = connection_.nextEvent()) {
         handle(*event);
     }
-    return !isLost_ && xcb_connection_has_error(connection_.get()) == 0;
+    return !isLost_ && connection_.isAlive();
 }
 
 void EmbeddedIcon::handle(const xcb_generic_event_t& event)
 {
-    constexpr unsigned kSentByClient = 0x80;
-    switch (event.response_type & ~kSentByClient) {
+    switch (typeOf(event)) {
     case XCB_EXPOSE:
         isShown_ = true;
         repaint();
@@ -206,7 +192,7 @@ void EmbeddedIcon::handle(const xcb_generic_event_t& event)
     }
     case XCB_REPARENT_NOTIFY: {
         const auto& notice = reinterpret_cast<const xcb_reparent_notify_event_t&>(event);
-        isLost_ = isLost_ || (notice.window == window_ && notice.parent == screen_.root);
+        isLost_ = isLost_ || (notice.window == window_ && notice.parent == connection_.root());
         break;
     }
     case XCB_DESTROY_NOTIFY: // of the icon, or of the tray

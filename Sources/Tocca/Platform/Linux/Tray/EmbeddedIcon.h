@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Linux/X11/XConnection.h"
+
 #include <xcb/xcb.h>
 
 #include <cstdint>
@@ -47,14 +49,9 @@ public:
     /// Takes in what the server has sent; whenever `fd` is readable. False when the server or the tray is lost.
     bool serve();
 
-    [[nodiscard]] int fd() const noexcept { return xcb_get_file_descriptor(connection_.get()); }
+    [[nodiscard]] int fd() const noexcept { return connection_.fd(); }
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
-    };
-
-    using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
     static constexpr int kFirstSize = 24; // until the tray gives the icon its own
 
     /// What the tray draws its icons with.
@@ -63,15 +60,13 @@ private:
         std::uint8_t depth = 0;
     };
 
-    EmbeddedIcon(Connection connection, xcb_screen_t& screen, Painter painter, Observers observers);
+    EmbeddedIcon(XConnection connection, Painter painter, Observers observers);
 
     void create(xcb_window_t tray);
     [[nodiscard]] Surface surfaceOf(xcb_window_t tray) const;
-    [[nodiscard]] xcb_atom_t atom(const char* name) const;
     void handle(const xcb_generic_event_t& event);
 
-    const Connection connection_;
-    xcb_screen_t& screen_;
+    const XConnection connection_;
     const Painter painter_;
     const Observers observers_;
     xcb_window_t window_ = XCB_NONE;

@@ -3,6 +3,7 @@
 #include "Platform/Linux/X11/FrontWindow.h"
 #include "Platform/Linux/X11/PromptWatch.h"
 #include "Platform/Linux/X11/WindowFacts.h"
+#include "Platform/Linux/X11/XConnection.h"
 #include "Platform/Linux/X11/XQuestions.h"
 
 #include <xcb/xcb.h>
@@ -31,22 +32,15 @@ public:
     /// Takes in what the server has sent; whenever `fd` is readable. False when the server is lost.
     bool serve();
 
-    [[nodiscard]] int fd() const noexcept { return xcb_get_file_descriptor(connection_.get()); }
+    [[nodiscard]] int fd() const noexcept { return connection_.fd(); }
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
-    };
-
-    using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
-
-    DesktopWatch(Connection connection, xcb_window_t root, Observers observers);
+    DesktopWatch(XConnection connection, Observers observers);
 
     void begin();
     void handle(const xcb_generic_event_t& event);
 
-    const Connection connection_;
-    const xcb_window_t root_;
+    const XConnection connection_;
     XQuestions questions_;
     WindowInquiry inquiry_;
     PromptWatch prompts_;

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/System/ProcessNames.h"
 #include "Platform/Linux/X11/SecretPrompts.h"
+#include "Platform/Linux/X11/XConnection.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -12,8 +13,6 @@
 namespace tocca::platform::linux {
 
 namespace {
-
-constexpr std::uint8_t kSentByClient = 0x80;
 
 bool isPrompt(const WindowFacts& facts)
 {
@@ -44,7 +43,7 @@ void PromptWatch::begin()
 
 void PromptWatch::handle(const xcb_generic_event_t& event)
 {
-    switch (event.response_type & ~kSentByClient) {
+    switch (typeOf(event)) {
     case XCB_FOCUS_IN:
     case XCB_FOCUS_OUT:
         focusChanged(reinterpret_cast<const xcb_focus_out_event_t&>(event).mode);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Linux/X11/XConnection.h"
+
 #include <xcb/xcb.h>
 
 #include <functional>
@@ -31,24 +33,18 @@ public:
     /// Takes in what the server has sent; whenever `fd` is readable. False when the server is lost.
     bool serve();
 
-    [[nodiscard]] int fd() const noexcept { return xcb_get_file_descriptor(connection_.get()); }
+    [[nodiscard]] int fd() const noexcept { return connection_.fd(); }
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
-    };
-
-    using Connection = std::unique_ptr<xcb_connection_t, Disconnect>;
-
     struct Selection {
         xcb_atom_t name = XCB_ATOM_NONE;
         xcb_window_t owner = XCB_NONE;
     };
 
-    SelectionWatch(Connection connection, std::uint8_t firstEvent, std::vector<Selection> selections,
+    SelectionWatch(XConnection connection, std::uint8_t firstEvent, std::vector<Selection> selections,
                    Observer changed);
 
-    const Connection connection_;
+    const XConnection connection_;
     const std::uint8_t firstEvent_;
     std::vector<Selection> selections_;
     const Observer changed_;

@@ -1,7 +1,5 @@
 #include "Platform/Linux/X11/WindowRequests.h"
 
-#include "Platform/Linux/X11/XReply.h"
-
 #include <xcb/shape.h>
 
 #include <algorithm>
@@ -103,13 +101,6 @@ bool WindowRequests::isOrdinary(xcb_window_t window)
     const auto types = words(window, "_NET_WM_WINDOW_TYPE");
     return types.empty() || contains(types, atom("_NET_WM_WINDOW_TYPE_NORMAL")) ||
            contains(types, atom("_NET_WM_WINDOW_TYPE_DIALOG"));
-}
-
-xcb_atom_t WindowRequests::atom(std::string_view name)
-{
-    const auto cookie = xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 std::vector<std::uint32_t> WindowRequests::words(xcb_window_t window, std::string_view property)

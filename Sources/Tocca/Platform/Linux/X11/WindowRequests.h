@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Linux/X11/XConnection.h"
+
 #include <xcb/xcb.h>
 
 #include <cstdint>
@@ -47,7 +49,8 @@ public:
     [[nodiscard]] bool isThere(xcb_window_t window);
 
 private:
-    [[nodiscard]] xcb_atom_t atom(std::string_view name);
+    [[nodiscard]] xcb_atom_t atom(std::string_view name) const { return atomOf(connection_, name); }
+
     [[nodiscard]] std::vector<std::uint32_t> words(xcb_window_t window, std::string_view property);
     void setWords(xcb_window_t window, std::string_view property, xcb_atom_t type,
                   const std::vector<std::uint32_t>& values);

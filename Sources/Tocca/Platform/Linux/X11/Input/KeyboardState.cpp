@@ -20,22 +20,20 @@ void KeyboardState::setRoles(const KeyRoles& roles) noexcept
 std::optional<KeyTransition> KeyboardState::press(std::uint8_t key, bool isRepeat) noexcept
 {
     const KeyRoles::Role& role = roles_.of(key);
-    const bool wasHeld = held_.test(key);
     held_.set(key);
     if (role.isLock) {
         lockKeyCode_ = role.keyCode;
         return std::nullopt;
     }
-    if (!wasHeld) {
+    if (!isRepeat) {
         reported_.set(key);
     }
     if (role.flag != 0) {
         flags_ |= role.flag;
-        return wasHeld ? std::nullopt : std::optional(flagsChanged(role.keyCode, flags_));
+        return flagsChanged(role.keyCode, flags_);
     }
-    return KeyTransition{
-        .type = EventType::KeyDown,
-        .event = {.keyCode = role.keyCode, .isAutorepeat = isRepeat || wasHeld, .flags = flags_}};
+    return KeyTransition{.type = EventType::KeyDown,
+                         .event = {.keyCode = role.keyCode, .isAutorepeat = isRepeat, .flags = flags_}};
 }
 
 std::optional<KeyTransition> KeyboardState::release(std::uint8_t key) noexcept

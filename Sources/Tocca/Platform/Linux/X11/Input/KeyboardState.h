@@ -25,8 +25,8 @@ public:
 
     void setRoles(const KeyRoles& roles) noexcept;
 
-    /// `isRepeat` says that the server knows it for a repeat; so does a press of a key that is down.
-    [[nodiscard]] std::optional<KeyTransition> press(std::uint8_t key, bool isRepeat) noexcept;
+    /// `isRepeat` is what the server says; nothing is left out for it.
+    [[nodiscard]] std::optional<KeyTransition> press(std::uint8_t key, bool isRepeat = false) noexcept;
 
     /// Reports nothing for an ordinary key whose press was not reported.
     [[nodiscard]] std::optional<KeyTransition> release(std::uint8_t key) noexcept;

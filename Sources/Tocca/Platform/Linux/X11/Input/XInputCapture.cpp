@@ -204,8 +204,7 @@ void XInputCapture::dispatchEvents(bool mayRead)
 
 void XInputCapture::dispatch(const xcb_generic_event_t& event, double arrival)
 {
-    constexpr std::uint8_t kSentByClient = 0x80;
-    const auto type = static_cast<std::uint8_t>(event.response_type & ~kSentByClient);
+    const std::uint8_t type = typeOf(event);
     if (type == XCB_GE_GENERIC) {
         dispatchInput(event, arrival);
     } else if (type == XCB_MAPPING_NOTIFY) {
@@ -242,8 +241,7 @@ void XInputCapture::dispatchInput(const xcb_generic_event_t& event, double arriv
     case XCB_INPUT_RAW_KEY_PRESS:
         if (!mayReport) {
             keys_.pressSilently(key);
-        } else if (const auto transition =
-                       keys_.press(key, (raw.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0)) {
+        } else if (const auto transition = keys_.press(key)) { // raw events are never repeats
             deliver(*transition, time);
         }
         break;

@@ -17,31 +17,19 @@ constexpr std::uint16_t kAnnouncedMajor = 2;
 constexpr std::uint16_t kAnnouncedMinor = 2;
 constexpr std::uint16_t kNeededMinor = 1;
 
-/// The screen that DISPLAY names, or the first.
-xcb_window_t rootOf(xcb_connection_t* connection, int screenNumber)
-{
-    auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection));
-    while (screenNumber-- > 0 && screen.rem > 1) {
-        xcb_screen_next(&screen);
-    }
-    return screen.data->root;
-}
-
 } // namespace
 
 Result<std::unique_ptr<XInputConnection>, XInputObstacle> XInputConnection::open()
 {
-    int screenNumber = 0;
-    // Not make_unique: the constructor is private.
-    std::unique_ptr<XInputConnection> self(new XInputConnection);
-    self->connection_.reset(xcb_connect(nullptr, &screenNumber));
-    if (!self->isAlive()) {
+    auto connection = XConnection::open();
+    if (!connection) {
         return XInputObstacle::NoServer;
     }
+    // Not make_unique: the constructor is private.
+    std::unique_ptr<XInputConnection> self(new XInputConnection(std::move(*connection)));
     if (!self->hasRawEvents()) {
         return self->isAlive() ? XInputObstacle::NoRawEvents : XInputObstacle::NoServer;
     }
-    self->root_ = rootOf(self->connection_.get(), screenNumber);
     return self;
 }
 
@@ -87,7 +75,7 @@ void XInputConnection::select(XInputSelection selection)
     if (selection.wantsButtons) {
         events.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
     }
-    xcb_input_xi_select_events(connection, root_, 1, &events.head);
+    xcb_input_xi_select_events(connection, connection_.root(), 1, &events.head);
 
     constexpr std::uint16_t kKinds = XCB_XKB_EVENT_TYPE_STATE_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY |
                                      XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY;
@@ -215,16 +203,6 @@ bool XInputConnection::drain() noexcept
     while (nextEvent(true)) {
     }
     return isAlive();
-}
-
-bool XInputConnection::isAlive() const noexcept
-{
-    return xcb_connection_has_error(connection_.get()) == 0;
-}
-
-int XInputConnection::fd() const noexcept
-{
-    return xcb_get_file_descriptor(connection_.get());
 }
 
 } // namespace tocca::platform::linux

@@ -2,7 +2,7 @@
 
 #include "Platform/Linux/X11/Input/KeyRoles.h"
 #include "Platform/Linux/X11/Input/KeyboardState.h"
-#include "Platform/Linux/X11/XReply.h"
+#include "Platform/Linux/X11/XConnection.h"
 #include "Support/Result.h"
 
 #include <xcb/xcb.h>
@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace tocca::platform::linux {
 
@@ -22,10 +23,7 @@ struct XInputSelection {
     bool wantsButtons = false;
 };
 
-/// A connection of its own to the X server that DISPLAY names, for raw input events.
-///
-/// Threads: one at a time.
-/// Errors: a lost server is a state (`isAlive`), and every call on a lost connection does nothing.
+/// An `XConnection` for raw input events. Threads and errors: as there.
 class XInputConnection {
 public:
     /// Connects and makes sure of XInput 2.1, below which keys stay hidden while another client grabs the keyboard.
@@ -57,32 +55,30 @@ public:
     /// Throws away what the server has sent. Returns whether it is still there.
     [[nodiscard]] bool drain() noexcept;
 
-    [[nodiscard]] bool isAlive() const noexcept;
-    [[nodiscard]] int fd() const noexcept;
+    [[nodiscard]] bool isAlive() const noexcept { return connection_.isAlive(); }
+
+    [[nodiscard]] int fd() const noexcept { return connection_.fd(); }
 
     [[nodiscard]] std::uint8_t inputOpcode() const noexcept { return inputOpcode_; }
 
     [[nodiscard]] std::uint8_t keyboardEvent() const noexcept { return keyboardEvent_; }
 
 private:
-    struct Disconnect {
-        void operator()(xcb_connection_t* connection) const noexcept { xcb_disconnect(connection); }
-    };
-
     struct LayoutQuestion {
         xcb_get_keyboard_mapping_cookie_t keysyms;
         xcb_get_modifier_mapping_cookie_t modifiers;
     };
 
-    XInputConnection() = default;
+    explicit XInputConnection(XConnection connection) noexcept
+        : connection_(std::move(connection))
+    {}
 
     [[nodiscard]] bool hasRawEvents();
     [[nodiscard]] LayoutQuestion sendLayoutQuestion();
     [[nodiscard]] KeyRoles rolesFrom(const xcb_get_keyboard_mapping_reply_t* keysyms,
                                      const xcb_get_modifier_mapping_reply_t* modifiers) const;
 
-    std::unique_ptr<xcb_connection_t, Disconnect> connection_;
-    xcb_window_t root_ = XCB_NONE;
+    const XConnection connection_;
     std::uint8_t inputOpcode_ = 0;
     std::uint8_t keyboardEvent_ = 0;
     std::optional<LayoutQuestion> question_;
