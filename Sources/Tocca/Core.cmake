@@ -41,6 +41,7 @@ app_module(tocca_core
         UI/Underglow/UnderglowTheme
     HEADERS
         Audio/AudioSettings.h
+        Audio/CatalogueCase.h
         Audio/PlayerPool.h
         Audio/RandomDraws.h
         Audio/Packs/PackImportError.h

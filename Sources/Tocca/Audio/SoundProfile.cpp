@@ -2,7 +2,7 @@
 
 #include "Platform/KeyCodes.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <initializer_list>
 
 namespace tocca::audio {
@@ -10,36 +10,6 @@ namespace tocca::audio {
 namespace key = platform::key;
 
 namespace {
-
-struct SwitchRow {
-    std::string_view rawValue;
-    std::string_view description;
-    std::string_view iconName;
-    std::string_view folderName;
-};
-
-constexpr std::array<SwitchRow, SwitchType::allCases.size()> kSwitches{{
-    {.rawValue = "Holy Panda",
-     .description = "Thocky • Authentic Holy Panda switch recordings with deep resonance",
-     .iconName = "sparkles",
-     .folderName = "holy-panda"},
-    {.rawValue = "Cherry MX Blue",
-     .description = "Clicky • Genuine Cherry MX Blue acoustic actuation clicks",
-     .iconName = "bolt.fill",
-     .folderName = "mx-blue"},
-    {.rawValue = "Cherry MX Brown",
-     .description = "Tactile • Authentic Cherry MX Brown bump & dampened clacks",
-     .iconName = "circle.grid.cross.fill",
-     .folderName = "mx-brown"},
-    {.rawValue = "NK Cream",
-     .description = "Linear • Genuine NovelKeys Cream smooth linear travel",
-     .iconName = "waveform.path.ecg",
-     .folderName = "nk-cream"},
-    {.rawValue = "Typewriter",
-     .description = "Vintage • Authentic mechanical typewriter key strikes & return",
-     .iconName = "character.cursor.ibeam",
-     .folderName = "typewriter"},
-}};
 
 constexpr std::size_t kPanCodes = key::kForwardDelete + 1;
 
@@ -88,31 +58,27 @@ float KeyCategory::spatialPan(std::uint16_t keyCode) noexcept
     return keyCode < kPanCodes ? kPans[keyCode] : 0.0F;
 }
 
-std::optional<SwitchType> SwitchType::fromRawValue(std::string_view rawValue) noexcept
-{
-    const auto found = std::find_if(allCases.begin(), allCases.end(),
-                                    [rawValue](SwitchType type) { return type.rawValue() == rawValue; });
-    return found == allCases.end() ? std::nullopt : std::optional<SwitchType>(*found);
-}
-
-std::string_view SwitchType::rawValue() const noexcept
-{
-    return kSwitches[value_].rawValue;
-}
-
-std::string_view SwitchType::description() const noexcept
-{
-    return kSwitches[value_].description;
-}
-
-std::string_view SwitchType::iconName() const noexcept
-{
-    return kSwitches[value_].iconName;
-}
-
-std::string_view SwitchType::folderName() const noexcept
-{
-    return kSwitches[value_].folderName;
-}
+constexpr std::array<SwitchType::Row, SwitchType::allCases.size()> SwitchType::rows{{
+    {.rawValue = "Holy Panda",
+     .description = "Thocky • Authentic Holy Panda switch recordings with deep resonance",
+     .iconName = "sparkles",
+     .folderName = "holy-panda"},
+    {.rawValue = "Cherry MX Blue",
+     .description = "Clicky • Genuine Cherry MX Blue acoustic actuation clicks",
+     .iconName = "bolt.fill",
+     .folderName = "mx-blue"},
+    {.rawValue = "Cherry MX Brown",
+     .description = "Tactile • Authentic Cherry MX Brown bump & dampened clacks",
+     .iconName = "circle.grid.cross.fill",
+     .folderName = "mx-brown"},
+    {.rawValue = "NK Cream",
+     .description = "Linear • Genuine NovelKeys Cream smooth linear travel",
+     .iconName = "waveform.path.ecg",
+     .folderName = "nk-cream"},
+    {.rawValue = "Typewriter",
+     .description = "Vintage • Authentic mechanical typewriter key strikes & return",
+     .iconName = "character.cursor.ibeam",
+     .folderName = "typewriter"},
+}};
 
 } // namespace tocca::audio

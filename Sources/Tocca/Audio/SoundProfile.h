@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Audio/CatalogueCase.h"
+
 #include <array>
-#include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 namespace tocca::audio {
@@ -32,36 +32,31 @@ private:
 /// The direction of a stroke.
 enum class KeyStrokeAction : std::uint8_t { down, up };
 
-/// The built-in switches. Threads: any.
-class SwitchType {
-public:
+struct SwitchTypes {
     enum Value : std::uint8_t { holyPanda, cherryMXBlue, cherryMXBrown, nkCream, typewriter };
 
     static constexpr std::array<Value, 5> allCases{holyPanda, cherryMXBlue, cherryMXBrown, nkCream,
                                                    typewriter};
+};
 
-    constexpr SwitchType(Value value) noexcept // NOLINT(google-explicit-constructor)
-        : value_(value)
-    {}
+/// The built-in switches. Threads: any.
+class SwitchType : public CatalogueCase<SwitchType, SwitchTypes> {
+public:
+    using CatalogueCase::CatalogueCase;
 
-    constexpr operator Value() const noexcept { return value_; } // NOLINT(google-explicit-constructor)
+    struct Row {
+        std::string_view rawValue;
+        std::string_view description;
+        std::string_view iconName;
+        std::string_view folderName;
+    };
 
-    /// The case whose raw value is exactly `rawValue`, if any.
-    [[nodiscard]] static std::optional<SwitchType> fromRawValue(std::string_view rawValue) noexcept;
+    static const std::array<Row, allCases.size()> rows;
 
-    /// The display name, which is also the identity.
-    [[nodiscard]] std::string_view rawValue() const noexcept;
-
-    [[nodiscard]] std::string_view id() const noexcept { return rawValue(); }
-
-    [[nodiscard]] std::string_view description() const noexcept;
-    [[nodiscard]] std::string_view iconName() const noexcept;
+    [[nodiscard]] std::string_view iconName() const noexcept { return row().iconName; }
 
     /// The name of the switch's folder inside the built-in sound pack directory.
-    [[nodiscard]] std::string_view folderName() const noexcept;
-
-private:
-    Value value_;
+    [[nodiscard]] std::string_view folderName() const noexcept { return row().folderName; }
 };
 
 } // namespace tocca::audio
