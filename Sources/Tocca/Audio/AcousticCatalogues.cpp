@@ -4,34 +4,16 @@ namespace tocca::audio {
 
 constexpr std::array<AcousticDeskSurface::Row, AcousticDeskSurface::allCases.size()>
     AcousticDeskSurface::rows{{
-        {.rawValue = "Clean Studio (Raw)",
-         .description = "Pure uncolored mechanical switch acoustics",
-         .gain = 1.0F,
-         .rate = 1.0F},
-        {.rawValue = "4mm Felt Deskmat (Thock)",
-         .description = "Deep bass absorption with muted high-pitch clack",
-         .gain = 1.04F,
-         .rate = 0.98F},
-        {.rawValue = "Hardwood Desk (Crisp)",
-         .description = "Snappy acoustic bounce with crisp transients",
-         .gain = 1.02F,
-         .rate = 1.03F},
-        {.rawValue = "Gasket Poron Foam (Creamy)",
-         .description = "Dampened modern custom keyboard sound",
-         .gain = 0.98F,
-         .rate = 0.97F},
+        {"Clean Studio (Raw)", "Pure uncolored mechanical switch acoustics", 1.0F, 1.0F},
+        {"4mm Felt Deskmat (Thock)", "Deep bass absorption with muted high-pitch clack", 1.04F, 0.98F},
+        {"Hardwood Desk (Crisp)", "Snappy acoustic bounce with crisp transients", 1.02F, 1.03F},
+        {"Gasket Poron Foam (Creamy)", "Dampened modern custom keyboard sound", 0.98F, 0.97F},
     }};
 
 constexpr std::array<MouseSwitchProfile::Row, MouseSwitchProfile::allCases.size()> MouseSwitchProfile::rows{{
-    {.rawValue = "Kailh GM 8.0 Black Mamba",
-     .description = "Crisp, snappy high-tactile esports microswitch",
-     .stem = "kailhGM8"},
-    {.rawValue = "Omron 50M Blue",
-     .description = "Light, responsive classic office snap",
-     .stem = "omron50M"},
-    {.rawValue = "Silent Studio Optical",
-     .description = "Dampened, gentle studio tap",
-     .stem = "silentOptical"},
+    {"Kailh GM 8.0 Black Mamba", "Crisp, snappy high-tactile esports microswitch", "kailhGM8"},
+    {"Omron 50M Blue", "Light, responsive classic office snap", "omron50M"},
+    {"Silent Studio Optical", "Dampened, gentle studio tap", "silentOptical"},
 }};
 
 } // namespace tocca::audio

@@ -72,52 +72,35 @@ void AudioEngine::precomputePeripheralAudio()
 
 void AudioEngine::mirrorSettings()
 {
-    const auto mirror = [this](auto& setting) {
-        settingLinks_.push_back(setting.onChange([this](const auto&) { refreshSettings(); }));
+    const auto mirror = [this](auto& setting, auto field) {
+        settingLinks_.push_back(setting.onChange([this, field](const auto& value) {
+            latestSettings_.*field = value;
+            settings_.store(latestSettings_);
+        }));
     };
+    mirror(isEnabled, &AudioSettings::isEnabled);
+    mirror(currentSwitchType, &AudioSettings::currentSwitchType);
+    mirror(volume, &AudioSettings::volume);
+    mirror(playUpstroke, &AudioSettings::playUpstroke);
+    mirror(isSpatialAudioEnabled, &AudioSettings::isSpatialAudioEnabled);
+    mirror(isHapticsEnabled, &AudioSettings::isHapticsEnabled);
+    mirror(isBurstDynamicsEnabled, &AudioSettings::isBurstDynamicsEnabled);
+    mirror(isPresenceEQEnabled, &AudioSettings::isPresenceEQEnabled);
+    mirror(lubeLevel, &AudioSettings::lubeLevel);
+    mirror(deskSurface, &AudioSettings::deskSurface);
+    mirror(isMouseAudioEnabled, &AudioSettings::isMouseAudioEnabled);
+    mirror(isScrollRatchetEnabled, &AudioSettings::isScrollRatchetEnabled);
+    mirror(mouseProfile, &AudioSettings::mouseProfile);
     settingLinks_.push_back(selectedCustomPack.onChange([this](const std::optional<SoundPackInfo>& pack) {
-        const auto isSame = [&pack](const SoundPackInfo& known) { return known == *pack; };
-        if (pack && std::none_of(selectedPacks_.begin(), selectedPacks_.end(), isSame)) {
-            selectedPacks_.push_front(*pack);
-        }
-        refreshSettings();
+        latestSettings_.selectedCustomPack = pack ? &kept(*pack) : nullptr;
+        settings_.store(latestSettings_);
     }));
-    mirror(isEnabled);
-    mirror(currentSwitchType);
-    mirror(volume);
-    mirror(playUpstroke);
-    mirror(isSpatialAudioEnabled);
-    mirror(isHapticsEnabled);
-    mirror(isBurstDynamicsEnabled);
-    mirror(isPresenceEQEnabled);
-    mirror(lubeLevel);
-    mirror(deskSurface);
-    mirror(isMouseAudioEnabled);
-    mirror(isScrollRatchetEnabled);
-    mirror(mouseProfile);
 }
 
-void AudioEngine::refreshSettings()
+const SoundPackInfo& AudioEngine::kept(const SoundPackInfo& pack)
 {
-    const auto& pack = selectedCustomPack.get();
-    const auto kept = std::find_if(selectedPacks_.begin(), selectedPacks_.end(),
-                                   [&pack](const SoundPackInfo& known) { return pack && known == *pack; });
-    settings_.store({
-        .isEnabled = isEnabled.get(),
-        .playUpstroke = playUpstroke.get(),
-        .isSpatialAudioEnabled = isSpatialAudioEnabled.get(),
-        .isHapticsEnabled = isHapticsEnabled.get(),
-        .isBurstDynamicsEnabled = isBurstDynamicsEnabled.get(),
-        .isPresenceEQEnabled = isPresenceEQEnabled.get(),
-        .isMouseAudioEnabled = isMouseAudioEnabled.get(),
-        .isScrollRatchetEnabled = isScrollRatchetEnabled.get(),
-        .currentSwitchType = currentSwitchType.get(),
-        .deskSurface = deskSurface.get(),
-        .mouseProfile = mouseProfile.get(),
-        .volume = volume.get(),
-        .lubeLevel = lubeLevel.get(),
-        .selectedCustomPack = kept == selectedPacks_.end() ? nullptr : &*kept,
-    });
+    const auto known = std::find(selectedPacks_.begin(), selectedPacks_.end(), pack);
+    return known != selectedPacks_.end() ? *known : selectedPacks_.emplace_front(pack);
 }
 
 void AudioEngine::playKey(std::uint16_t keyCode, KeyStrokeAction action, std::optional<double> eventTime)

@@ -81,7 +81,7 @@ public:
 private:
     void precomputePeripheralAudio();
     void mirrorSettings();
-    void refreshSettings();
+    [[nodiscard]] const SoundPackInfo& kept(const SoundPackInfo& pack);
     void postFeedback(float pan);
     void runStroke(Stroke stroke);
     void runMouseClick(MouseSwitchProfile profile, MouseButton button, std::optional<double> eventTime);
@@ -93,8 +93,9 @@ private:
     const MuteQuery isSmartMuted_;
     std::vector<Subscription> settingLinks_;
     std::forward_list<SoundPackInfo>
-        selectedPacks_; // main; every pack ever selected, so that readers' pointers stay good
-    SnapshotCell<AudioSettings> settings_{AudioSettings{}}; // main -> any
+        selectedPacks_;            // main; every pack ever selected, so that readers' pointers stay good
+    AudioSettings latestSettings_; // main
+    SnapshotCell<AudioSettings> settings_{latestSettings_}; // main -> any
     PlayerPool pool_;                                       // audio queue
     std::atomic<double> lastStrokeTime_{0.0};               // callers of playKey
     double lastScrollTime_ = 0.0;                           // caller of playScrollRatchet

@@ -27,37 +27,15 @@ struct ClickRow {
 
 constexpr std::string_view kDefaultClick = "kailhGM8_left";
 
-constexpr std::array<ClickRow, 6> kClicks{{
-    {.key = "kailhGM8_left", .duration = 0.015, .freq1 = 1800, .freq2 = 3200, .decay = 350, .amplitude = 0.8},
-    {.key = "kailhGM8_right",
-     .duration = 0.014,
-     .freq1 = 1650,
-     .freq2 = 2900,
-     .decay = 380,
-     .amplitude = 0.75},
-    {.key = "omron50M_left", .duration = 0.012, .freq1 = 2400, .freq2 = 4100, .decay = 440, .amplitude = 0.7},
-    {.key = "omron50M_right",
-     .duration = 0.011,
-     .freq1 = 2250,
-     .freq2 = 3800,
-     .decay = 460,
-     .amplitude = 0.65},
-    {.key = "silentOptical_left",
-     .duration = 0.018,
-     .freq1 = 650,
-     .freq2 = 950,
-     .decay = 220,
-     .amplitude = 0.5},
-    {.key = "silentOptical_right",
-     .duration = 0.018,
-     .freq1 = 600,
-     .freq2 = 900,
-     .decay = 220,
-     .amplitude = 0.45},
-}};
-
-constexpr ClickRow kRatchet{
-    .key = "", .duration = 0.006, .freq1 = 2600, .freq2 = 4800, .decay = 750, .amplitude = 0.45};
+constexpr std::array kClicks{
+    ClickRow{"kailhGM8_left", 0.015, 1800, 3200, 350, 0.8},
+    ClickRow{"kailhGM8_right", 0.014, 1650, 2900, 380, 0.75},
+    ClickRow{"omron50M_left", 0.012, 2400, 4100, 440, 0.7},
+    ClickRow{"omron50M_right", 0.011, 2250, 3800, 460, 0.65},
+    ClickRow{"silentOptical_left", 0.018, 650, 950, 220, 0.5},
+    ClickRow{"silentOptical_right", 0.018, 600, 900, 220, 0.45},
+};
+constexpr ClickRow kRatchet{"", 0.006, 2600, 4800, 750, 0.45};
 
 /// Appends to a little-endian file image.
 class LittleEndianWriter {

@@ -59,26 +59,14 @@ float KeyCategory::spatialPan(std::uint16_t keyCode) noexcept
 }
 
 constexpr std::array<SwitchType::Row, SwitchType::allCases.size()> SwitchType::rows{{
-    {.rawValue = "Holy Panda",
-     .description = "Thocky • Authentic Holy Panda switch recordings with deep resonance",
-     .iconName = "sparkles",
-     .folderName = "holy-panda"},
-    {.rawValue = "Cherry MX Blue",
-     .description = "Clicky • Genuine Cherry MX Blue acoustic actuation clicks",
-     .iconName = "bolt.fill",
-     .folderName = "mx-blue"},
-    {.rawValue = "Cherry MX Brown",
-     .description = "Tactile • Authentic Cherry MX Brown bump & dampened clacks",
-     .iconName = "circle.grid.cross.fill",
-     .folderName = "mx-brown"},
-    {.rawValue = "NK Cream",
-     .description = "Linear • Genuine NovelKeys Cream smooth linear travel",
-     .iconName = "waveform.path.ecg",
-     .folderName = "nk-cream"},
-    {.rawValue = "Typewriter",
-     .description = "Vintage • Authentic mechanical typewriter key strikes & return",
-     .iconName = "character.cursor.ibeam",
-     .folderName = "typewriter"},
+    {"Holy Panda", "Thocky • Authentic Holy Panda switch recordings with deep resonance", "sparkles",
+     "holy-panda"},
+    {"Cherry MX Blue", "Clicky • Genuine Cherry MX Blue acoustic actuation clicks", "bolt.fill", "mx-blue"},
+    {"Cherry MX Brown", "Tactile • Authentic Cherry MX Brown bump & dampened clacks",
+     "circle.grid.cross.fill", "mx-brown"},
+    {"NK Cream", "Linear • Genuine NovelKeys Cream smooth linear travel", "waveform.path.ecg", "nk-cream"},
+    {"Typewriter", "Vintage • Authentic mechanical typewriter key strikes & return", "character.cursor.ibeam",
+     "typewriter"},
 }};
 
 } // namespace tocca::audio

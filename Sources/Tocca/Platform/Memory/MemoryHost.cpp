@@ -10,35 +10,11 @@ MemoryHost::MemoryHost()
     , serialQueues_(time_)
     , timers_(time_)
     , eventTaps_(time_, threads_)
-    , host_{
-          .mainQueue = mainQueue_,
-          .serialQueues = serialQueues_,
-          .threads = threads_,
-          .timers = timers_,
-          .clock = time_,
-          .eventTaps = eventTaps_,
-          .localMonitors = localMonitors_,
-          .trustQuery = trustQuery_,
-          .audioPlayers = audioPlayers_,
-          .audioDevices = audioDevices_,
-          .haptics = haptics_,
-          .workspace = workspace_,
-          .loginItem = loginItem_,
-          .directories = directories_,
-          .files = files_,
-          .fileStore = fileStore_,
-          .random = random_,
-          .standardOutput = standardOutput_,
-          .application = application_,
-          .screens = screens_,
-          .windows = windows_,
-          .panels = panels_,
-          .popovers = popovers_,
-          .statusBar = statusBar_,
-          .mainMenu = mainMenu_,
-          .openPanels = openPanels_,
-          .userDefaults = userDefaults_,
-      }
+    , host_{mainQueue_,     serialQueues_, threads_,      timers_,       time_,     eventTaps_,
+            localMonitors_, trustQuery_,   audioPlayers_, audioDevices_, haptics_,  workspace_,
+            loginItem_,     directories_,  files_,        fileStore_,    random_,   standardOutput_,
+            application_,   screens_,      windows_,      panels_,       popovers_, statusBar_,
+            mainMenu_,      openPanels_,   userDefaults_}
 {
     setThreadRole(ThreadRole::Main);
 }

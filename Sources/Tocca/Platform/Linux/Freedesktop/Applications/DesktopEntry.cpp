@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::string_view kMainGroup = "[Desktop Entry]";
 constexpr std::string_view kBlank = " \t\r";
+// What follows a backslash, and what both stand for.
+constexpr std::string_view kCodes = "\\ntrs";
+constexpr std::string_view kMeanings = "\\\n\t\r ";
 
 std::string_view trimmed(std::string_view text)
 {
@@ -26,27 +29,10 @@ std::string unescaped(std::string_view value)
 {
     std::string plain;
     for (std::size_t i = 0; i < value.size(); ++i) {
-        if (value[i] != '\\' || i + 1 == value.size()) {
-            plain += value[i];
-            continue;
-        }
-        switch (const char code = value[++i]) {
-        case 's':
-            plain += ' ';
-            break;
-        case 'n':
-            plain += '\n';
-            break;
-        case 't':
-            plain += '\t';
-            break;
-        case 'r':
-            plain += '\r';
-            break;
-        default:
-            plain += code;
-            break;
-        }
+        const bool isEscape = value[i] == '\\' && i + 1 < value.size();
+        const char c = isEscape ? value[++i] : value[i];
+        const std::size_t code = isEscape ? kCodes.find(c) : std::string_view::npos;
+        plain += code != std::string_view::npos ? kMeanings[code] : c;
     }
     return plain;
 }
@@ -133,22 +119,11 @@ std::string escapedText(std::string_view value)
 {
     std::string escaped;
     for (const char c : value) {
-        switch (c) {
-        case '\\':
-            escaped += "\\\\";
-            break;
-        case '\n':
-            escaped += "\\n";
-            break;
-        case '\t':
-            escaped += "\\t";
-            break;
-        case '\r':
-            escaped += "\\r";
-            break;
-        default:
+        if (const std::size_t code = kMeanings.find(c); code != std::string_view::npos && c != ' ') {
+            escaped += '\\';
+            escaped += kCodes[code];
+        } else {
             escaped += c;
-            break;
         }
     }
     return escaped;
