@@ -30,24 +30,16 @@ struct AppDelegateTest : testing::Test {
 
     ui::ControllersOnMemory controllers;
     memory::MemoryHost& host = controllers.host;
-    AppDelegate delegate{host, {.views = {.menuBar = noting("menu bar view made"),
-                                          .mainWindow = noting("main window view made"),
-                                          .notchHUD = noting("HUD view made"),
-                                          .underglow = noting("underglow view made")},
-                                .keyboardMonitor = [this]() -> auto& {return controllers.monitor;
-}, .notchHUD = [this]() -> auto&
-
-{
-    return controllers.notchHUD;
-}
-, .underglow = [this]() -> auto&
-{
-    return controllers.underglow;
-}
-} // namespace
-}; // namespace tocca::app
-}
-;
+    AppDelegate delegate{
+        host,
+        {.views = {.menuBar = noting("menu bar view made"),
+                   .mainWindow = noting("main window view made"),
+                   .notchHUD = noting("HUD view made"),
+                   .underglow = noting("underglow view made")},
+         .keyboardMonitor = [this]() -> keyboard::KeyboardMonitor& { return controllers.monitor; },
+         .notchHUD = [this]() -> ui::NotchAcousticHUDController& { return controllers.notchHUD; },
+         .underglow = [this]() -> ui::SpatialUnderglowController& { return controllers.underglow; }}};
+};
 
 TEST_F(AppDelegateTest, BringsThePartsUpInTheirOrderAndOpensTheStudioWindow)
 {

@@ -8,6 +8,7 @@
 
 namespace tocca::audio {
 
+/// The cases of `AcousticDeskSurface`.
 struct AcousticDeskSurfaces {
     enum Value : std::uint8_t { cleanStudio, feltDeskmat, hardwoodDesk, gasketPoron };
 
@@ -35,6 +36,7 @@ public:
     [[nodiscard]] float deskRate() const noexcept { return row().rate; }
 };
 
+/// The cases of `MouseSwitchProfile`.
 struct MouseSwitchProfiles {
     enum Value : std::uint8_t { kailhGM8, omron50M, silentOptical };
 

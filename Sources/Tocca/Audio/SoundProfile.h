@@ -32,6 +32,7 @@ private:
 /// The direction of a stroke.
 enum class KeyStrokeAction : std::uint8_t { down, up };
 
+/// The cases of `SwitchType`.
 struct SwitchTypes {
     enum Value : std::uint8_t { holyPanda, cherryMXBlue, cherryMXBrown, nkCream, typewriter };
 

@@ -32,6 +32,7 @@ public:
 
 using EventHandler = std::function<void(EventType, const InputEvent&)>;
 
+/// Makes event taps.
 class EventTaps {
 public:
     virtual ~EventTaps() = default;

@@ -12,6 +12,7 @@ public:
     virtual ~LocalMonitor() = default;
 };
 
+/// Installs monitors of keys that are typed into the program's own windows.
 class LocalMonitors {
 public:
     virtual ~LocalMonitors() = default;

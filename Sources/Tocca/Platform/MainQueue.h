@@ -7,7 +7,7 @@ namespace tocca::platform {
 /// The queue of the main thread: every published value is written by its tasks.
 class MainQueue : public Executor {
 public:
-    /// Queues `task` like `post`, through preallocated storage; a queue that is full drops its oldest such task and counts it.
+    /// Queues `task` like `post`, through preallocated storage; a queue that is full drops its oldest such task.
     ///
     /// Order: tasks posted this way keep their order among themselves; against `post` it is that of arrival only as long
     /// as neither lane is behind.

@@ -21,6 +21,7 @@ struct SerialQueueOptions {
     bool isUserInteractive = false;     ///< asks the scheduler to run it before ordinary threads
 };
 
+/// Makes serial queues.
 class SerialQueues {
 public:
     virtual ~SerialQueues() = default;

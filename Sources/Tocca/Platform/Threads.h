@@ -21,18 +21,20 @@ public:
     virtual void stop() = 0;
 };
 
+/// What a thread is called and treated like.
 struct ThreadOptions {
     std::string name;                   ///< as far as the system keeps it (15 bytes on Linux)
     ThreadRole role = ThreadRole::None; ///< set before the body runs
     bool isUserInteractive = false;     ///< asks the scheduler to run it before ordinary threads
 };
 
+/// Starts threads.
 class Threads {
 public:
     virtual ~Threads() = default;
 
-    /// Starts a thread that runs `body`; never before this call has returned in a way its caller could notice: `body` must
-    /// not use what the caller stores the result in. Threads: main.
+    /// Starts a thread that runs `body`, perhaps before this call returns: `body` must not use the variable that the caller keeps
+    /// the result in. Threads: main.
     [[nodiscard]] virtual std::unique_ptr<Thread> start(const ThreadOptions& options, Task body) = 0;
 };
 

@@ -49,6 +49,7 @@ struct PanelRecord {
     bool exists = true;
 };
 
+/// Overlays that a test looks at.
 class MemoryPanels : public Panels {
 public:
     explicit MemoryPanels(Journal& journal)
@@ -76,6 +77,7 @@ struct WindowRecord {
     void clickClose();
 };
 
+/// Windows that a test looks at and closes.
 class MemoryWindows : public Windows {
 public:
     explicit MemoryWindows(Journal& journal)
@@ -91,6 +93,7 @@ private:
     Journal& journal_;
 };
 
+/// A tray whose icon a test clicks.
 class MemoryStatusBar : public StatusBar {
 public:
     explicit MemoryStatusBar(Journal& journal)
@@ -110,6 +113,7 @@ private:
     Journal& journal_;
 };
 
+/// Popovers that a test looks at; all share one record.
 class MemoryPopovers : public Popovers {
 public:
     explicit MemoryPopovers(Journal& journal)
@@ -127,6 +131,7 @@ private:
     Journal& journal_;
 };
 
+/// A main menu whose items a test chooses.
 class MemoryMainMenu : public MainMenu {
 public:
     explicit MemoryMainMenu(Journal& journal)
@@ -175,6 +180,7 @@ private:
     Completion pending_;
 };
 
+/// Values that a test looks at.
 class MemoryUserDefaults : public UserDefaults {
 public:
     void setBool(std::string_view key, bool value) override

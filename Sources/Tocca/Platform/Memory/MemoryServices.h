@@ -31,6 +31,7 @@ public:
     int promptCount = 0;
 };
 
+/// An actuator that counts its pulses.
 class MemoryHaptics : public Haptics {
 public:
     void performAlignment() override { ++pulseCount; }
@@ -114,6 +115,7 @@ private:
     std::uint64_t state_ = 0x9E3779B97F4A7C15;
 };
 
+/// Lines that a test reads.
 class MemoryStandardOutput : public StandardOutput {
 public:
     void printLine(std::string_view line) override { lines.emplace_back(line); }

@@ -5,6 +5,7 @@
 
 namespace tocca::platform::memory {
 
+/// Timers in virtual time.
 class MemoryTimers : public Timers {
 public:
     explicit MemoryTimers(VirtualTime& time)

@@ -7,7 +7,7 @@
 
 namespace tocca::player {
 
-/// A decoded recording: one or two channels of ±1.0 floats, each kept apart and surrounded by silence.
+/// A decoded recording: one or two channels of ±1.0 floats, each in memory of its own with silence before and behind it.
 ///
 /// Threads: immutable, so any.
 class PcmClip {

@@ -9,10 +9,10 @@ namespace {
 
 // Rounding must not lift a product over the ceiling.
 constexpr float kTarget = Limiter::kCeiling * (1.0F - 1e-6F);
-// Between two samples a signal hardly rises to more than twice the higher one; below this it is not worth a look.
+// Between two samples a signal hardly ever rises above twice the higher one, so below this no look between them is needed.
 constexpr float kNearCeiling = Limiter::kCeiling / 2.0F;
 constexpr double kRecoverySeconds = 0.15;
-// What follows a block is not known yet; going on as it ends, ever more gently, mistakes the fewest peaks.
+// The frames after a block are not known yet. Going on with its last slope, ever flatter, misjudges the fewest peaks.
 constexpr float kSlopeKept = 0.7F;
 
 float peakOf(std::span<const float> samples) noexcept
@@ -71,7 +71,7 @@ void Limiter::findNeeds(std::size_t count) noexcept
     const auto level = [first](std::ptrdiff_t frame) {
         return std::max(std::abs(first[2 * frame]), std::abs(first[2 * frame + 1]));
     };
-    // The last known frame's way to the next is looked at when that is known, from the other side.
+    // What follows the last known frame is a guess, so the signal behind that frame is looked at with the next block.
     const auto between = [this, first, &level](std::ptrdiff_t frame) {
         if (frame >= lastKnown_) {
             return level(frame);
@@ -93,7 +93,7 @@ void Limiter::planGains(std::size_t count, float recovery) noexcept
 {
     std::size_t next = 0;
     while (next < count) {
-        // The steepest of the lines to all later needs stays below every one of them.
+        // Of the straight lines from here to each later need, the steepest keeps below all of them.
         float slope = 0.0F;
         std::size_t end = count;
         float lowest = 1.0F;

@@ -11,9 +11,9 @@ namespace tocca::player {
 
 /// Keeps a mix at or below −0.5 dBFS true peak, and leaves what stays below −1 dBFS untouched, bit for bit.
 ///
-/// Within a block the gain falls in straight lines that meet each peak in time, and jumps only where a peak leaves no
-/// earlier frame to begin on; it recovers over 0.15 s. Samples never exceed the ceiling. The signal between them may where
-/// a block ends, since what it rises to depends on the next block: README.md has the figures.
+/// Within a block the gain falls in straight lines that reach what each peak needs in time; it jumps only for a peak at the
+/// block's beginning. It recovers over 0.15 s. Samples never exceed the ceiling. The signal between samples may do so at the
+/// end of a block, where it depends on the next block: README.md has the figures.
 /// Threads: render.
 /// Real-time: every member is wait-free; adds no delay.
 class Limiter {

@@ -38,7 +38,7 @@ public:
 
 private:
     struct Cover {
-        std::uint64_t number = 0; // windows are known by numbers that are used again
+        std::uint64_t number = 0; // tells a window from a later one to which the server gives the same name
         bool isPrompt = false;
     };
 

@@ -11,8 +11,8 @@
 
 namespace tocca::platform::linux {
 
-/// Follows, on a connection of its own, who owns some selections of the X server that DISPLAY names: by an owner, a compositor or a tray
-/// says that it is there.
+/// Follows, on a connection of its own, who owns some selections of the X server that DISPLAY names. A compositor or a tray shows that it
+/// is there by owning one.
 ///
 /// Threads: one at a time; the observer is called from inside `serve`.
 class SelectionWatch {

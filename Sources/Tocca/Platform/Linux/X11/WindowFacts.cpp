@@ -54,7 +54,7 @@ void WindowInquiry::prepare(std::function<void()> ready)
                                                     }
                                                 });
     }
-    // What was asked before this has been answered when this is, so that nothing below waits for the extension's data.
+    // The server answers in order: after this answer the extension's data is here, and asking for it waits for nothing.
     questions_.ask<xcb_get_input_focus_reply_t>(
         xcb_get_input_focus(connection_),
         [this, ready = std::move(ready)](const xcb_get_input_focus_reply_t*) { askVersion(ready); });

@@ -8,8 +8,8 @@ namespace tocca::platform::linux {
 
 /// What each key of an X server does to the modifiers.
 ///
-/// Keys are named by their X key code, which is the kernel's code plus 8. A modifier is one by its physical position,
-/// whatever it has been remapped to; only Caps Lock, which people remap most, is what it was made.
+/// Keys are named by their X key code, which is the kernel's code plus 8. A key's position decides whether it is a modifier,
+/// whatever it was remapped to; only Caps Lock, which people remap most, is taken for what it was remapped to.
 class KeyRoles {
 public:
     static constexpr std::size_t kKeys = 256;

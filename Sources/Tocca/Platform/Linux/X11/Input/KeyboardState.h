@@ -33,14 +33,14 @@ public:
 
     [[nodiscard]] std::optional<KeyTransition> setLocked(bool isLocked) noexcept;
 
-    /// The same while nothing may be reported. What it leaves behind is for `catchUp`.
+    /// The same for a time in which nothing may be reported; `catchUp` ends it.
     void pressSilently(std::uint8_t key) noexcept;
     void releaseSilently(std::uint8_t key) noexcept;
     void setLockedSilently(bool isLocked) noexcept;
     void observeSilently(const Keys& down, bool isLocked) noexcept;
 
-    /// Reports the releases and the changed lock of the silent time. Ordinary keys that went down in it stay unreported, and
-    /// so do their releases.
+    /// Reports the releases and the changed lock of the silent time. Ordinary keys that went down in it are not reported, and
+    /// neither are their releases.
     template <class Report>
     void catchUp(Report report)
     {
@@ -81,7 +81,7 @@ private:
 
     KeyRoles roles_;
     Keys held_;
-    Keys reported_; // down as far as anybody was told
+    Keys reported_; // whose press was reported and whose release was not
     bool isLocked_ = false;
     bool isLockReported_ = false;
     std::uint64_t flags_ = 0;

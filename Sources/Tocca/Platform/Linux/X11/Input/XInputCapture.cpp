@@ -77,7 +77,7 @@ void XInputCapture::setEnabled(bool isEnabled)
     if (isOnLoop && !isServing_) {
         followWish();
     } else {
-        armTimer(0.0); // another thread, or a handler in the midst of events: the loop sees to it next
+        armTimer(0.0); // another thread, or a handler while events are delivered: the loop does it next
     }
 }
 
@@ -88,7 +88,7 @@ void XInputCapture::serveServer()
     if (const auto roles = connection_->takeLayout()) {
         keys_.setRoles(*roles);
     }
-    dispatchEvents(false); // sending a question may have read events on the way
+    dispatchEvents(false); // asking for the layout may have read events
     if (!connection_->isAlive()) {
         lose();
     }
@@ -156,7 +156,7 @@ bool XInputCapture::beginListening()
     } else {
         keys_.adopt(snapshot->down, snapshot->isLocked);
     }
-    // What arrived together with the answer does not make the descriptor readable again.
+    // Events that were read together with the answer are here already, so the descriptor does not tell of them.
     dispatchEvents(false);
     return true;
 }
@@ -189,11 +189,12 @@ void XInputCapture::armTimer(double seconds) noexcept
 
 void XInputCapture::dispatchEvents(bool mayRead)
 {
-    // One read a turn: what it leaves behind makes the descriptor readable again.
+    // One read a turn is enough: whatever the server sends after it makes the descriptor readable again.
     auto event = connection_->nextEvent(mayRead);
-    const double arrival = clock_.now(); // not before the read, which also finds what has happened just now
+    const double arrival =
+        clock_.now(); // after the read, or an event could have happened later than it arrived
     for (; event; event = connection_->nextEvent(false)) {
-        // Whoever disables the tap finds it so at once. What is missed now is made up for when it is enabled again.
+        // A handler that disables the tap gets no further event. What it misses is caught up with when the tap is enabled again.
         isListening_ = isListening_ && isWanted_.load(std::memory_order_acquire);
         const auto age = static_cast<std::int32_t>(event->full_sequence - firstSequence_);
         if (isListening_ && age >= 0) {

@@ -14,13 +14,13 @@ namespace tocca::platform::linux {
 
 class RunLoop;
 
-/// Says whether keys may be reported just now; consulted for every event on the capture thread, so it must not wait.
+/// Says whether keys may be reported just now. It is asked for every event on the capture thread, so it must not wait.
 ///
-/// While it is closed no key is reported, not even the release of one that is down; with the first event after it has opened,
-/// the releases of the time between are. An empty one stands for always.
+/// While it says no, no key is reported, not even the release of one that was pressed before. The first event after that brings the
+/// releases that were missed. An empty gate always says yes.
 using KeyGate = std::function<bool()>;
 
-/// What an event tap shares with the loop that serves it.
+/// Hears an X server's keys, buttons and wheel, and reports them as the platform's events: the part of an event tap that lives on a loop.
 ///
 /// Threads: constructor: any. `setEnabled`: any. The rest: the loop's.
 /// Order: events are delivered as the server sent them.
@@ -61,7 +61,7 @@ private:
     const EventHandler handler_;
     const KeyGate gate_;
     const LinuxClock clock_;
-    const FileDescriptor timer_;                // turns readable when the wish is to be looked at
+    const FileDescriptor timer_;                // wakes the loop to follow `isWanted_`
     const int timerDescriptor_;                 // as the loop looks it up
     std::atomic<bool> isWanted_{false};         // any -> loop
     std::atomic<const RunLoop*> loop_{nullptr}; // loop -> any
