@@ -47,7 +47,6 @@ TEST_F(SmartMuteTest, JudgesWhoeverComesToTheFront)
     };
 
     const Row rows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {kEditor, "audible"},
         {kVault, "Privacy • Bitwarden active"},
         {{.bundleIdentifier = "com.lastpass.lastpass", .localizedName = {}},

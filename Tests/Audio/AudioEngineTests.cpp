@@ -124,7 +124,6 @@ TEST_F(AudioEngineTest, RaisesStrokesOfABurstInsideItsOpenBounds)
     };
 
     constexpr Row kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.interval = 0.1, .isBurst = true},     {.interval = 0.1099, .isBurst = true},
         {.interval = 0.1101, .isBurst = false}, {.interval = 0.0049, .isBurst = false},
         {.interval = 0.0051, .isBurst = true},
@@ -181,7 +180,6 @@ TEST_F(AudioEngineTest, ShapesLevelAndRateByTheSettings)
     };
 
     const Row rows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {"plain", 0.5F, false, AcousticDeskSurface::cleanStudio, 0, 0.5F, 1.02F},
         {"presence", 0.5F, true, AcousticDeskSurface::cleanStudio, 0, 0.53F, 1.02F},
         {"hardwood", 0.5F, false, AcousticDeskSurface::hardwoodDesk, 0, 0.51F, 1.02F * 1.03F},

@@ -59,7 +59,6 @@ bool importWithFault(const Row& row, int step)
 TEST(PackImportUnderFaults, LeavesTheOldPackOrTheNewOneWholeWhicheverStepFails)
 {
     constexpr Row kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.name = "exchange, one fault", .then = ThenWorks::Everything, .canExchange = true},
         {.name = "exchange, crash", .then = ThenWorks::Nothing, .canExchange = true},
         {.name = "exchange, crash, removal",

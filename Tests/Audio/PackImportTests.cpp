@@ -63,7 +63,6 @@ TEST_F(PackImportTest, StoresUnderTheSourcesOwnNameWithoutExtension)
     };
 
     constexpr Row kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.folder = "Pack.v2", .source = "Pack.v2", .stored = "Pack"},
         {.folder = "Two.dots.zip", .source = "Two.dots.zip", .stored = "Two.dots"},
         {.folder = ".hidden", .source = ".hidden", .stored = ".hidden"},
@@ -110,7 +109,6 @@ TEST_F(PackImportTest, RefusesWhatCannotBeImportedAndKeepsTheOldPack)
 
     const std::filesystem::path alps = "/downloads/Alps";
     const Row rows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.name = "nothing", .source = "", .complaint = "No such file"},
         {.name = "missing", .source = "/downloads/none", .complaint = "none: No such file"},
         {.name = "dangling",

@@ -47,7 +47,6 @@ TEST_F(PackLibraryTest, TakesNameAndDescriptionFromTheFirstUsableManifest)
     };
 
     constexpr Row kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.folder = "None", .manifest = nullptr, .fallback = nullptr, .name = "None", .description = nullptr},
         {.folder = "Both",
          .manifest = R"({"name":"N","description":"D"})",

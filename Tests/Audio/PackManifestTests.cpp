@@ -34,7 +34,6 @@ TEST(PackManifest, TakesTheTextsOfAnObject)
     };
 
     constexpr Row kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.text = R"({"name":"Alps","description":"Loud"})", .name = "Alps", .description = "Loud"},
         {.text = R"({})", .name = "", .description = ""},
         {.text = R"({"name":"","description":" "})", .name = "", .description = " "},
@@ -59,7 +58,6 @@ TEST(PackManifest, TakesTheTextsOfAnObject)
 TEST(PackManifest, RefusesWhatIsNoStrictObject)
 {
     const std::string texts[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         "",
         " ",
         "null",

@@ -32,7 +32,6 @@ TEST(SoundSlot, SortsFileNamesByTheirWords)
     };
 
     constexpr Row kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.name = "Press_Standard.wav", .slot = "press_standard"},
         {.name = "Press_Standard.WAV", .slot = ""},
         {.name = "press_standard.flac", .slot = ""},
@@ -132,7 +131,6 @@ TEST_F(SoundPackLoaderTest, LeavesOutWhatItCannotRead)
 TEST_F(SoundPackLoaderTest, LooksForTheBuiltInPacksInAFixedOrderOnEveryCall)
 {
     const std::filesystem::path places[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         "/home/user/.local/share/Tocca/SoundPacks",
         "/home/user/project/Resources/SoundPacks",
         "/home/user/project/Sources/Tocca/Resources/SoundPacks",

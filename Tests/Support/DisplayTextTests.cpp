@@ -16,7 +16,6 @@ TEST(DisplayText, ShowsOneLineWhateverTheBytesAre)
     };
 
     const Row rows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {.name = "nothing", .bytes = "", .shown = ""},
         {.name = "every length of UTF-8", .bytes = "a é € 🎹", .shown = "a é € 🎹"},
         {.name = "line breaks", .bytes = "a\nb\r\tc\u2028d\u0085e", .shown = "a b  c d e"},

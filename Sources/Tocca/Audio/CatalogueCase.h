@@ -15,11 +15,11 @@ class CatalogueCase : public Cases {
 public:
     using Value = typename Cases::Value;
 
-    constexpr CatalogueCase(Value value) noexcept // NOLINT(google-explicit-constructor)
+    constexpr CatalogueCase(Value value) noexcept
         : value_(value)
     {}
 
-    constexpr operator Value() const noexcept { return value_; } // NOLINT(google-explicit-constructor)
+    constexpr operator Value() const noexcept { return value_; }
 
     /// The case whose raw value is exactly `rawValue`, if any.
     [[nodiscard]] static std::optional<Self> fromRawValue(std::string_view rawValue) noexcept

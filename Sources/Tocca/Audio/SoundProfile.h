@@ -13,11 +13,11 @@ class KeyCategory {
 public:
     enum Value : std::uint8_t { standard, spacebar, enter, backspace, modifier };
 
-    constexpr KeyCategory(Value value) noexcept // NOLINT(google-explicit-constructor)
+    constexpr KeyCategory(Value value) noexcept
         : value_(value)
     {}
 
-    constexpr operator Value() const noexcept { return value_; } // NOLINT(google-explicit-constructor)
+    constexpr operator Value() const noexcept { return value_; }
 
     /// Classifies a key code; total. Threads: any. Real-time: wait-free.
     [[nodiscard]] static KeyCategory from(std::uint16_t keyCode) noexcept;

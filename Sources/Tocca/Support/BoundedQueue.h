@@ -24,7 +24,7 @@ public:
     /// `capacity` is rounded up to a power of two.
     explicit BoundedQueue(std::size_t capacity)
         : mask_(std::bit_ceil(capacity) - 1)
-        , cells_(std::make_unique<Cell[]>(mask_ + 1)) // NOLINT(modernize-avoid-c-arrays)
+        , cells_(std::make_unique<Cell[]>(mask_ + 1))
     {
         for (std::size_t i = 0; i <= mask_; ++i) {
             cells_[i].turn.store(i, std::memory_order_relaxed);
@@ -99,7 +99,7 @@ private:
     };
 
     const std::size_t mask_;
-    const std::unique_ptr<Cell[]> cells_; // NOLINT(modernize-avoid-c-arrays)
+    const std::unique_ptr<Cell[]> cells_;
     alignas(64) std::atomic<std::size_t> head_{0};
     alignas(64) std::atomic<std::size_t> tail_{0};
 };

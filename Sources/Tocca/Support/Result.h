@@ -17,11 +17,11 @@ struct Error {
 template <class T, class E = Error>
 class [[nodiscard]] Result {
 public:
-    Result(T value) // NOLINT(google-explicit-constructor)
+    Result(T value)
         : state_(std::in_place_index<0>, std::move(value))
     {}
 
-    Result(E error) // NOLINT(google-explicit-constructor)
+    Result(E error)
         : state_(std::in_place_index<1>, std::move(error))
     {}
 

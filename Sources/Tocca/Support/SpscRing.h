@@ -21,7 +21,7 @@ public:
     /// `capacity` is rounded up to a power of two.
     explicit SpscRing(std::size_t capacity)
         : mask_(std::bit_ceil(capacity) - 1)
-        , items_(std::make_unique<T[]>(mask_ + 1)) // NOLINT(modernize-avoid-c-arrays)
+        , items_(std::make_unique<T[]>(mask_ + 1))
     {}
 
     bool push(T item) noexcept REALTIME
@@ -58,7 +58,7 @@ public:
 
 private:
     const std::size_t mask_;
-    const std::unique_ptr<T[]> items_;             // NOLINT(modernize-avoid-c-arrays)
+    const std::unique_ptr<T[]> items_;
     alignas(64) std::atomic<std::size_t> head_{0}; // reader -> writer
     alignas(64) std::atomic<std::size_t> tail_{0}; // writer -> reader
 };

@@ -19,7 +19,7 @@ public:
     template <class F>
 
     requires(!std::is_same_v<std::remove_cvref_t<F>, Task> && std::is_invocable_v<std::remove_cvref_t<F>&>)
-        Task(F&& call) // NOLINT(google-explicit-constructor, bugprone-forwarding-reference-overload)
+        Task(F&& call) // NOLINT(bugprone-forwarding-reference-overload)
         : operations_(&kOperationsFor<std::remove_cvref_t<F>>)
     {
         using Call = std::remove_cvref_t<F>;
@@ -83,7 +83,7 @@ private:
     }
 
     const Operations* operations_ = nullptr;
-    alignas(std::max_align_t) std::byte storage_[kCapacity]; // NOLINT(modernize-avoid-c-arrays)
+    alignas(std::max_align_t) std::byte storage_[kCapacity];
 };
 
 } // namespace tocca

@@ -41,8 +41,7 @@ TEST(DesktopEntry, PrefersTheUsersLanguage)
     const struct {
         const char* locale;
         const char* name;
-    } kRows[] = {// NOLINT(modernize-avoid-c-arrays)
-                 {"de_AT.UTF-8", "Schlüssel"},
+    } kRows[] = {{"de_AT.UTF-8", "Schlüssel"},
                  {"sr_RS.UTF-8@latin", "Ključevi"},
                  {"fr_FR.UTF-8", "Keys"},
                  {"C.UTF-8", "Keys"}};

@@ -82,7 +82,6 @@ TEST_F(LoginItemTest, BelievesTheFileWhoeverChangedIt)
         std::string lines;
         LoginItemStatus status;
     } kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {"plain", "Exec=tocca\n", LoginItemStatus::Enabled},
         {"hidden", "Hidden=true\n", LoginItemStatus::NotRegistered},
         {"switched off in GNOME", "X-GNOME-Autostart-enabled=false\n", LoginItemStatus::RequiresApproval},

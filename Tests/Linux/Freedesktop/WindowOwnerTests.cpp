@@ -59,7 +59,6 @@ TEST_F(WindowOwnerTest, IsFoundByWhateverTellsMost)
         WindowOwner owner;
         const char* known;
     } kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {"end of an entry's id",
          {{}, {"keepassxc", "KeePassXC"}, ""},
          "org.keepassxc.KeePassXC (KeePassXC) for passwords"},
@@ -121,7 +120,6 @@ TEST(ProcessNames, KnowASandboxByItsControlGroup)
         const char* group;
         const char* application;
     } kRows[] = {
-        // NOLINT(modernize-avoid-c-arrays)
         {"app-flatpak-org.keepassxc.KeePassXC-4711.scope\n", "org.keepassxc.KeePassXC"},
         {"app-flatpak-com.example.With\\x2ddash-12.scope/inner\n", "com.example.With-dash"},
         {"snap.slack.slack-6a1b.scope", "slack_slack"},

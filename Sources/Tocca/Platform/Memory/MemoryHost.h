@@ -22,7 +22,7 @@ public:
     MemoryHost();
 
     /// Lets a controller be built on this machine: `AudioEngine engine(host, …)`.
-    operator Host&() noexcept { return host_; } // NOLINT(google-explicit-constructor)
+    operator Host&() noexcept { return host_; }
 
     /// Moves time on by `seconds`; main queue, timers, threads and audio queue each run at their own instant.
     void advance(double seconds) { time_.advance(seconds); }

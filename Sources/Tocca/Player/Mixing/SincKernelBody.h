@@ -40,7 +40,7 @@ template <class Vector>
 }
 
 /// The totals of four vectors, in their order.
-[[gnu::always_inline]] inline Four totals(const Four (&of)[4]) noexcept // NOLINT(modernize-avoid-c-arrays)
+[[gnu::always_inline]] inline Four totals(const Four (&of)[4]) noexcept
 {
     const Four first =
         __builtin_shufflevector(of[0], of[1], 0, 4, 1, 5) + __builtin_shufflevector(of[0], of[1], 2, 6, 3, 7);
@@ -80,7 +80,7 @@ void readMono(const SincRead& read, const float* in, float* out) noexcept
     const auto* rows = reinterpret_cast<const float*>(&read.table);
     std::uint64_t position = read.position;
     for (int i = 0; i < read.count; i += SincRead::kGroup) {
-        Four sums[SincRead::kGroup]; // NOLINT(modernize-avoid-c-arrays)
+        Four sums[SincRead::kGroup];
         for (Four& sum : sums) {
             const Tap tap = tapAt(rows, position);
             const float* frames = in + tap.first;
@@ -104,8 +104,8 @@ void readStereo(const SincRead& read, const float* left, const float* right, flo
     const auto* rows = reinterpret_cast<const float*>(&read.table);
     std::uint64_t position = read.position;
     for (int i = 0; i < read.count; i += SincRead::kGroup) {
-        Four leftSums[SincRead::kGroup];  // NOLINT(modernize-avoid-c-arrays)
-        Four rightSums[SincRead::kGroup]; // NOLINT(modernize-avoid-c-arrays)
+        Four leftSums[SincRead::kGroup];
+        Four rightSums[SincRead::kGroup];
         for (int j = 0; j < SincRead::kGroup; ++j) {
             const Tap tap = tapAt(rows, position);
             Vector weight = weights<Vector>(tap, 0);

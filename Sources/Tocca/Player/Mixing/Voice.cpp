@@ -73,8 +73,8 @@ void Voice::addChunk(std::span<float> frames, const SincKernel& kernel) noexcept
     const std::size_t count = frames.size() / 2;
     const bool isStereo = clip_->channelCount() == 2;
     const bool isCopy = step_ == kOneFrame;
-    alignas(64) std::array<float, kChunk> scratch[2]; // NOLINT(modernize-avoid-c-arrays)
-    const float* sources[2]{};                        // NOLINT(modernize-avoid-c-arrays)
+    alignas(64) std::array<float, kChunk> scratch[2];
+    const float* sources[2]{};
     for (std::size_t channel = 0; channel < clip_->channelCount(); ++channel) {
         sources[channel] = clip_->channel(channel).data();
     }

@@ -9,7 +9,7 @@ namespace tocca::platform::linux {
 struct XFree {
     void operator()(void* memory) const noexcept
     {
-        std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): xcb hands out memory of malloc
+        std::free(memory); // xcb hands out memory of malloc
     }
 };
 
