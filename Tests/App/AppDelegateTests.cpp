@@ -150,27 +150,5 @@ TEST_F(AppDelegateTest, TheMenuItemShowsAndFlipsTheNotchHUD)
     EXPECT_FALSE(host.mainMenu().validate(quit).isChecked);
 }
 
-TEST(MainMenuTable, HoldsTheGivenEntriesAndKeys)
-{
-    std::vector<std::string> lines;
-    for (const auto& menu : mainMenuTable()) {
-        lines.push_back("[" + menu.title + "]");
-        for (const auto& item : menu.items) {
-            const auto& key = item.keyEquivalent;
-            lines.push_back(item.title + "|" + item.action + "|" + (key.control ? "^" : "") +
-                            (key.option ? "~" : "") + key.key);
-            EXPECT_TRUE(key.command);
-        }
-    }
-    EXPECT_THAT(lines,
-                ElementsAre("[]", "About Tocca|orderFrontStandardAboutPanel:|", "||", "Hide Tocca|hide:|h",
-                            "Hide Others|hideOtherApplications:|~h", "Show All|unhideAllApplications:|", "||",
-                            "Quit Tocca|terminate:|q", "[File]", "Close Window|performClose:|w", "[Edit]",
-                            "Undo|undo:|z", "Redo|redo:|Z", "||", "Cut|cut:|x", "Copy|copy:|c",
-                            "Paste|paste:|v", "Select All|selectAll:|a", "[View]",
-                            "Show Notch Dynamic Island HUD|toggleNotchHUD:|^n", "[Window]",
-                            "Minimize|performMiniaturize:|m", "Zoom|performZoom:|"));
-}
-
 } // namespace
 } // namespace tocca::app

@@ -1,5 +1,6 @@
 #include "Audio/AudioEngine.h"
 #include "Audio/Packs/SoundPackLoader.h"
+#include "Platform/KeyCodes.h"
 #include "Platform/Memory/MemoryHost.h"
 
 #include <gmock/gmock.h>
@@ -16,9 +17,9 @@ using platform::memory::MemoryHost;
 using platform::memory::MemorySound;
 using platform::memory::textOf;
 
-constexpr std::uint16_t kA = 0;
-constexpr std::uint16_t kL = 37;
-constexpr std::uint16_t kSpace = 49;
+using platform::key::kA;
+using platform::key::kL;
+using platform::key::kSpace;
 
 // The top draw gives the upper end of the random rate, the bottom draw the lower one.
 constexpr std::uint64_t kTopDraw = ~std::uint64_t{0};

@@ -59,27 +59,15 @@ bool importWithFault(const Row& row, int step)
 TEST(PackImportUnderFaults, LeavesTheOldPackOrTheNewOneWholeWhicheverStepFails)
 {
     constexpr Row kRows[] = {
-        {.name = "exchange, one fault", .then = ThenWorks::Everything, .canExchange = true},
-        {.name = "exchange, crash", .then = ThenWorks::Nothing, .canExchange = true},
-        {.name = "exchange, crash, removal",
-         .then = ThenWorks::Nothing,
-         .canExchange = true,
-         .newPackIsRemovedByHand = true},
-        {.name = "two steps, one fault", .then = ThenWorks::Everything, .canExchange = false},
-        {.name = "two steps, crash", .then = ThenWorks::Nothing, .canExchange = false},
-        {.name = "two steps, one fault, removal",
-         .then = ThenWorks::Everything,
-         .canExchange = false,
-         .newPackIsRemovedByHand = true},
-        {.name = "two steps, crash, removal",
-         .then = ThenWorks::Nothing,
-         .canExchange = false,
-         .newPackIsRemovedByHand = true},
-        {.name = "first import, one fault",
-         .then = ThenWorks::Everything,
-         .canExchange = true,
-         .hasOldPack = false},
-        {.name = "first import, crash", .then = ThenWorks::Nothing, .canExchange = true, .hasOldPack = false},
+        {"exchange, one fault", ThenWorks::Everything, true},
+        {"exchange, crash", ThenWorks::Nothing, true},
+        {"exchange, crash, removal", ThenWorks::Nothing, true, true, true},
+        {"two steps, one fault", ThenWorks::Everything, false},
+        {"two steps, crash", ThenWorks::Nothing, false},
+        {"two steps, one fault, removal", ThenWorks::Everything, false, true, true},
+        {"two steps, crash, removal", ThenWorks::Nothing, false, true, true},
+        {"first import, one fault", ThenWorks::Everything, true, false},
+        {"first import, crash", ThenWorks::Nothing, true, false},
     };
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);

@@ -1,4 +1,5 @@
 #include "KeyboardFixture.h"
+#include "Platform/KeyCodes.h"
 
 namespace tocca::keyboard {
 namespace {
@@ -6,10 +7,10 @@ namespace {
 using platform::EventType;
 namespace flag = platform::flag;
 
-constexpr std::uint16_t kA = 0;
-constexpr std::uint16_t kLeftShift = 56;
-constexpr std::uint16_t kCapsLock = 57;
-constexpr std::uint16_t kFunction = 63;
+using platform::key::kA;
+using platform::key::kCapsLock;
+using platform::key::kFunction;
+using platform::key::kLeftShift;
 
 using CaptureTest = KeyboardFixture;
 

@@ -1,4 +1,5 @@
 #include "KeyboardFixture.h"
+#include "Platform/KeyCodes.h"
 
 #include <optional>
 #include <vector>
@@ -6,9 +7,9 @@
 namespace tocca::keyboard {
 namespace {
 
-constexpr std::uint16_t kA = 0;
-constexpr std::uint16_t kB = 11;
-constexpr std::uint16_t kSpace = 49;
+using platform::key::kA;
+using platform::key::kB;
+using platform::key::kSpace;
 
 struct StatisticsTest : KeyboardFixture {
     StatisticsTest() { startMonitor(); }
@@ -43,7 +44,7 @@ TEST_F(StatisticsTest, DropsContactChatterOfOneKeyAndDirection)
 TEST_F(StatisticsTest, DropsModifierChatterToo)
 {
     for (const std::uint64_t flags : {platform::flag::kShift, std::uint64_t{0}, platform::flag::kShift}) {
-        host.eventTaps().changeFlags(56, flags);
+        host.eventTaps().changeFlags(platform::key::kLeftShift, flags);
         host.advance(0.010);
     }
     EXPECT_EQ(heard(), "pr");

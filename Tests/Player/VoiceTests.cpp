@@ -186,15 +186,15 @@ TEST(SideGains, FollowABalanceControlAndIgnoreWhatIsNoLevel)
     };
 
     constexpr std::array kRows{
-        Row{.name = "the centre leaves both sides", .volume = 1.0F, .pan = 0.0F, .left = 1.0F, .right = 1.0F},
-        Row{.name = "far left", .volume = 1.0F, .pan = -1.0F, .left = 1.0F, .right = 0.0F},
-        Row{.name = "far right", .volume = 1.0F, .pan = 1.0F, .left = 0.0F, .right = 1.0F},
-        Row{.name = "half left", .volume = 0.8F, .pan = -0.5F, .left = 0.8F, .right = 0.4F},
-        Row{.name = "a quarter right", .volume = 1.0F, .pan = 0.25F, .left = 0.75F, .right = 1.0F},
-        Row{.name = "beyond the ends", .volume = 2.0F, .pan = -3.0F, .left = 1.0F, .right = 0.0F},
-        Row{.name = "negative volume", .volume = -0.2F, .pan = 0.0F, .left = 0.0F, .right = 0.0F},
-        Row{.name = "no number", .volume = kNan, .pan = kNan, .left = 0.0F, .right = 0.0F},
-        Row{.name = "pan is no number", .volume = 1.0F, .pan = kNan, .left = 1.0F, .right = 1.0F},
+        Row{"the centre leaves both sides", 1.0F, 0.0F, 1.0F, 1.0F},
+        Row{"far left", 1.0F, -1.0F, 1.0F, 0.0F},
+        Row{"far right", 1.0F, 1.0F, 0.0F, 1.0F},
+        Row{"half left", 0.8F, -0.5F, 0.8F, 0.4F},
+        Row{"a quarter right", 1.0F, 0.25F, 0.75F, 1.0F},
+        Row{"beyond the ends", 2.0F, -3.0F, 1.0F, 0.0F},
+        Row{"negative volume", -0.2F, 0.0F, 0.0F, 0.0F},
+        Row{"no number", kNan, kNan, 0.0F, 0.0F},
+        Row{"pan is no number", 1.0F, kNan, 1.0F, 1.0F},
     };
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);

@@ -3,7 +3,6 @@
 #include "Audio/Packs/PackLibrary.h"
 #include "Instruments/TemporaryDirectory.h"
 #include "Linux/System/ChildProcess.h"
-#include "Platform/FaultyFiles.h"
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
 
@@ -11,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 #include <string>
 #include <thread>
 #include <utility>
@@ -28,7 +26,6 @@ namespace {
 namespace fs = std::filesystem;
 using instruments::TemporaryDirectory;
 using platform::linux::ChildProcess;
-using testing::AnyOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -125,44 +122,6 @@ private:
     fs::path folder_;
     bool isMounted_;
 };
-
-class KilledImport : public ImportOnDisk, public testing::WithParamInterface<bool> {};
-
-TEST_P(KilledImport, LeavesAWholePackWhicheverStepIsTheLast)
-{
-    constexpr int kFiles = 7;
-    constexpr std::size_t kSize = 3000;
-    fillSource(kFiles, kSize);
-    int step = 1;
-    for (bool isKilled = true; isKilled; ++step) {
-        SCOPED_TRACE("step " + std::to_string(step));
-        ASSERT_TRUE(store.removeTree(packs / "Alps"));
-        fillOldPack();
-        ChildProcess child([&] {
-            int calls = 0;
-            platform::FaultyFileStore dying(files, store, [&] {
-                if (++calls == step) {
-                    ::raise(SIGKILL);
-                }
-                return false;
-            });
-            dying.canExchange = GetParam();
-            return PackImporter(files, dying).import(source, packs) ? "imported" : "failed";
-        });
-        const auto said = child.finish();
-        isKilled = !said;
-        expectOneWholePack();
-        if (said) {
-            EXPECT_EQ(*said, "imported");
-            EXPECT_FALSE(isOldPack());
-        }
-        ASSERT_FALSE(HasFailure());
-    }
-    EXPECT_GT(step, kFiles * 2);
-}
-
-INSTANTIATE_TEST_SUITE_P(ByExchange, KilledImport, testing::Values(true));
-INSTANTIATE_TEST_SUITE_P(InTwoSteps, KilledImport, testing::Values(false));
 
 TEST_F(ImportOnDisk, LeavesAWholePackWhenItIsKilledInTheMiddleOfAnything)
 {
@@ -267,23 +226,6 @@ TEST_F(ImportOnDisk, ReplacesAndCopiesWhatIsProtectedAgainstWriting)
 
     EXPECT_EQ(importAsOrdinaryUser(source), "imported Alps") << "the copy must not be as protected";
     expectOneWholePack();
-}
-
-TEST_F(ImportOnDisk, RefusesToNest)
-{
-    fs::create_directories(packs / "Alps/sub/Alps");
-    fs::create_symlink(root, root / "link");
-    const auto before = contents(root);
-    for (const fs::path& from :
-         {packs, packs / ".", root, root / "link", packs / "Alps/..", root / "link/packs", fs::path("/")}) {
-        SCOPED_TRACE(from);
-        EXPECT_THAT(import(from), AnyOf(HasSubstr("contains the imported"), HasSubstr("cannot be the name")));
-    }
-    for (const char* from : {"packs/Alps", "packs/Alps/", "link/packs/Alps", "packs/Alps/sub/Alps"}) {
-        SCOPED_TRACE(from);
-        EXPECT_THAT(import(root / from), HasSubstr("would replace"));
-    }
-    EXPECT_EQ(contents(root), before);
 }
 
 } // namespace
