@@ -20,7 +20,6 @@ app_module(tocca_core
         Audio/Packs/PackStaging
         Audio/Packs/SoundPackLoader
         Keyboard/KeyboardMonitor
-        Keyboard/TypingSpeed
         UI/Controllers
         UI/ViewFactory
         UI/NotchHUD/NotchAcousticHUDController
@@ -47,6 +46,7 @@ app_module(tocca_core
         Audio/Packs/PackImportError.h
         Audio/Packs/SoundPackInfo.h
         Keyboard/Debouncer.h
+        Keyboard/TypingSpeed.h
         UI/StudioTheme.h
         UI/NotchHUD/Waveform.h
         UI/Underglow/Glow.h

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <set>
 #include <string>
 
@@ -28,27 +29,27 @@ TEST(SoundSlot, SortsFileNamesByTheirWords)
 {
     struct Row {
         const char* name;
-        const char* slot;
+        std::optional<SoundSlot> slot;
     };
 
+    constexpr auto kDown = KeyStrokeAction::down;
+    constexpr auto kUp = KeyStrokeAction::up;
     constexpr Row kRows[] = {
-        {.name = "Press_Standard.wav", .slot = "press_standard"},
-        {.name = "Press_Standard.WAV", .slot = ""},
-        {.name = "press_standard.flac", .slot = ""},
-        {.name = ".wav", .slot = "press_standard"},
-        {.name = "wav", .slot = ""},
-        {.name = "backspace.wav", .slot = "press_space"},
-        {.name = "delete_release.mp3", .slot = "release_back"},
-        {.name = "BACK.ogg", .slot = "press_back"},
-        {.name = "enter.ogg", .slot = "press_enter"},
-        {.name = "space-enter-release.mp3", .slot = "release_space"},
-        {.name = "release.wav", .slot = "release_standard"},
-        {.name = "tocca_meta.json", .slot = ""},
+        {"Press_Standard.wav", SoundSlot(kDown, SoundSlot::standard)},
+        {"Press_Standard.WAV", std::nullopt},
+        {"press_standard.flac", std::nullopt},
+        {".wav", SoundSlot(kDown, SoundSlot::standard)},
+        {"wav", std::nullopt},
+        {"backspace.wav", SoundSlot(kDown, SoundSlot::space)},
+        {"delete_release.mp3", SoundSlot(kUp, SoundSlot::back)},
+        {"BACK.ogg", SoundSlot(kDown, SoundSlot::back)},
+        {"enter.ogg", SoundSlot(kDown, SoundSlot::enter)},
+        {"space-enter-release.mp3", SoundSlot(kUp, SoundSlot::space)},
+        {"release.wav", SoundSlot(kUp, SoundSlot::standard)},
+        {"tocca_meta.json", std::nullopt},
     };
     for (const Row& row : kRows) {
-        SCOPED_TRACE(row.name);
-        const auto slot = SoundSlot::fromFileName(row.name);
-        EXPECT_EQ(slot ? slot->key() : "", row.slot);
+        EXPECT_EQ(SoundSlot::fromFileName(row.name), row.slot) << row.name;
     }
 }
 

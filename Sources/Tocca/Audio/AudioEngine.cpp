@@ -134,10 +134,8 @@ void AudioEngine::runStroke(Stroke stroke)
         stroke.pack != nullptr
             ? loader_.sample(stroke.pack->folderURL, stroke.pack->id, stroke.category, stroke.action)
             : loader_.sample(stroke.switchType, stroke.category, stroke.action);
-    if (data) {
-        stroke.playback.rate *= drawBetween(host_.random, 0.98F, 1.02F) + stroke.burstPitchOffset;
-        start("Failed to play audio sample: ", data, stroke.playback);
-    }
+    stroke.playback.rate *= drawBetween(host_.random, 0.98F, 1.02F) + stroke.burstPitchOffset;
+    start("Failed to play audio sample: ", data, stroke.playback);
 }
 
 void AudioEngine::playMouseClick(MouseButton button, std::optional<double> eventTime)
@@ -147,21 +145,12 @@ void AudioEngine::playMouseClick(MouseButton button, std::optional<double> event
         return;
     }
     queue_->post([this, profile = settings.mouseProfile, button, eventTime] {
-        runMouseClick(profile, button, eventTime);
+        start("Failed to play mouse click: ",
+              peripheralSounds_.mouseClick(PeripheralSounds::clickKey(profile, button)),
+              {.rate = drawBetween(host_.random, 0.96F, 1.04F),
+               .volume = clampedLevel(settings_.load().volume * kClickLevel),
+               .eventTime = eventTime});
     });
-}
-
-void AudioEngine::runMouseClick(MouseSwitchProfile profile, MouseButton button,
-                                std::optional<double> eventTime)
-{
-    const SharedBytes data = peripheralSounds_.mouseClick(PeripheralSounds::clickKey(profile, button));
-    if (!data) {
-        return;
-    }
-    start("Failed to play mouse click: ", data,
-          {.rate = drawBetween(host_.random, 0.96F, 1.04F),
-           .volume = clampedLevel(settings_.load().volume * kClickLevel),
-           .eventTime = eventTime});
 }
 
 void AudioEngine::playScrollRatchet(double deltaY, std::optional<double> eventTime)
@@ -175,23 +164,19 @@ void AudioEngine::playScrollRatchet(double deltaY, std::optional<double> eventTi
         return;
     }
     lastScrollTime_ = now;
-    queue_->post([this, deltaY, eventTime] { runScrollRatchet(deltaY, eventTime); });
-}
-
-void AudioEngine::runScrollRatchet(double deltaY, std::optional<double> eventTime)
-{
-    const SharedBytes& data = peripheralSounds_.scrollRatchet();
-    if (!data) {
-        return;
-    }
-    start("Failed to play scroll ratchet: ", data,
-          {.rate = scrollSpeedFactor(deltaY) * drawBetween(host_.random, 0.96F, 1.04F),
-           .volume = clampedLevel(settings_.load().volume * kRatchetLevel),
-           .eventTime = eventTime});
+    queue_->post([this, deltaY, eventTime] {
+        start("Failed to play scroll ratchet: ", peripheralSounds_.scrollRatchet(),
+              {.rate = scrollSpeedFactor(deltaY) * drawBetween(host_.random, 0.96F, 1.04F),
+               .volume = clampedLevel(settings_.load().volume * kRatchetLevel),
+               .eventTime = eventTime});
+    });
 }
 
 void AudioEngine::start(std::string_view failure, const SharedBytes& data, const platform::Playback& playback)
 {
+    if (!data) {
+        return;
+    }
     auto player = host_.audioPlayers.play(data, playback);
     if (player) {
         pool_.keep(std::move(player.value()));

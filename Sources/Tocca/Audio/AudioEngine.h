@@ -84,8 +84,6 @@ private:
     [[nodiscard]] const SoundPackInfo& kept(const SoundPackInfo& pack);
     void postFeedback(float pan);
     void runStroke(Stroke stroke);
-    void runMouseClick(MouseSwitchProfile profile, MouseButton button, std::optional<double> eventTime);
-    void runScrollRatchet(double deltaY, std::optional<double> eventTime);
     void start(std::string_view failure, const SharedBytes& data, const platform::Playback& playback);
 
     platform::Host& host_;

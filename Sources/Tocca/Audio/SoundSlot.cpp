@@ -9,11 +9,6 @@ namespace tocca::audio {
 
 namespace {
 
-constexpr std::array<std::string_view, SoundSlot::kCount> kKeys{
-    "press_standard",   "press_space",   "press_enter",   "press_back",
-    "release_standard", "release_space", "release_enter", "release_back",
-};
-
 constexpr std::array<std::string_view, 3> kExtensions{".mp3", ".wav", ".ogg"};
 
 SoundSlot::Sound soundOf(KeyCategory category) noexcept
@@ -65,11 +60,6 @@ std::array<std::optional<SoundSlot>, 3> SoundSlot::chainFor(KeyCategory category
         chain[2] = SoundSlot(KeyStrokeAction::down, standard);
     }
     return chain;
-}
-
-std::string_view SoundSlot::key() const noexcept
-{
-    return kKeys[index()];
 }
 
 } // namespace tocca::audio

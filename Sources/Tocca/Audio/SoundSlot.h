@@ -29,9 +29,6 @@ public:
     [[nodiscard]] static std::array<std::optional<SoundSlot>, 3> chainFor(KeyCategory category,
                                                                           KeyStrokeAction action) noexcept;
 
-    /// The slot's name, such as "press_standard".
-    [[nodiscard]] std::string_view key() const noexcept;
-
     [[nodiscard]] constexpr std::size_t index() const noexcept
     {
         return static_cast<std::size_t>(direction_) * 4 + static_cast<std::size_t>(sound_);

@@ -21,10 +21,22 @@ public:
     void add(double time) noexcept REALTIME { recentStrokeTimestamps_.push(time); }
 
     /// Forgets presses more than `kWindow` before `now`.
-    void prune(double now) noexcept;
+    void prune(double now) noexcept
+    {
+        while (recentStrokeTimestamps_.front() != nullptr &&
+               now - *recentStrokeTimestamps_.front() > kWindow) {
+            recentStrokeTimestamps_.pop();
+        }
+    }
 
     /// The speed over the presses not yet forgotten, truncated.
-    [[nodiscard]] std::int64_t wordsPerMinute() const noexcept REALTIME;
+    [[nodiscard]] std::int64_t wordsPerMinute() const noexcept REALTIME
+    {
+        constexpr double kWindowsPerMinute = 60.0 / kWindow;
+        constexpr double kStrokesPerWord = 5.0;
+        const auto strokes = static_cast<double>(recentStrokeTimestamps_.size());
+        return static_cast<std::int64_t>(strokes / kStrokesPerWord * kWindowsPerMinute);
+    }
 
 private:
     SpscRing<double> recentStrokeTimestamps_{kCapacity}; // delivering thread -> main

@@ -23,9 +23,6 @@ public:
     /// Limits `frames` (interleaved stereo) in place. Units: `sampleRate` in Hz. Errors: none for finite samples.
     void process(std::span<float> frames, double sampleRate) noexcept REALTIME;
 
-    /// The gain after the last frame, 1 while nothing is limited.
-    [[nodiscard]] float gain() const noexcept REALTIME { return gain_; }
-
 private:
     static constexpr std::size_t kPiece = 64;
     static constexpr std::size_t kBefore = TruePeak::kFramesBefore + 1;

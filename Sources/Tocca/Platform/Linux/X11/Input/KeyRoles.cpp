@@ -61,16 +61,12 @@ std::uint64_t flagOfKeysym(std::uint32_t keysym) noexcept
 
 std::uint64_t flagOfModifiers(std::uint8_t modifiers) noexcept
 {
-    if ((modifiers & ShiftMask) != 0) {
-        return flag::kShift;
-    }
-    if ((modifiers & ControlMask) != 0) {
-        return flag::kControl;
-    }
-    if ((modifiers & Mod1Mask) != 0) {
-        return flag::kOption;
-    }
-    return (modifiers & Mod4Mask) != 0 ? flag::kCommand : 0;
+    const auto has = [modifiers](int mask) { return (modifiers & mask) != 0; };
+    return has(ShiftMask)     ? flag::kShift
+           : has(ControlMask) ? flag::kControl
+           : has(Mod1Mask)    ? flag::kOption
+           : has(Mod4Mask)    ? flag::kCommand
+                              : 0;
 }
 
 bool isLockKeysym(std::uint32_t keysym) noexcept
