@@ -194,15 +194,6 @@ TEST(Mixer, FreesARecordingOnlyWhenItIsReclaimedAndKnowsTicketsThatAreOver)
     EXPECT_EQ(stage.left.back(), 0.5F);
 }
 
-TEST(Mixer, PlaysARecordingOfAnotherRateAtItsOwnPitch)
-{
-    MixerStage stage;
-    stage.cycle.sampleRate = 96000.0;
-    stage.startNow(steady(0.5F, 4800));
-    stage.render(12000);
-    EXPECT_NEAR(static_cast<double>(stage.soundingFrames().size()), 9600.0, 20.0);
-}
-
 TEST(Mixer, TracesWhenEachStrokeWasRendered)
 {
     MixerStage stage;

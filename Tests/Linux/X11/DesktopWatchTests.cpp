@@ -1,15 +1,11 @@
 #include "Platform/Linux/X11/DesktopWatch.h"
 
-#include "Instruments/XTestKeyboard.h"
 #include "Instruments/XWindow.h"
-#include "Linux/X11/Listener.h"
 #include "Linux/X11/XServer.h"
 #include "Platform/Linux/System/SecureInput.h"
 #include "Platform/Linux/X11/SecretPrompts.h"
 
 #include <gtest/gtest.h>
-
-#include <linux/input-event-codes.h>
 
 #include <array>
 #include <chrono>
@@ -176,31 +172,6 @@ TEST_F(DesktopWatchTest, IsSecureWhileTheKeyboardIsGrabbedAndAPromptIsOpen)
     EXPECT_TRUE(becomesSecure());
     prompt.ungrabKeyboard();
     EXPECT_TRUE(becomesPlain());
-}
-
-TEST_F(DesktopWatchTest, KeepsKeysFromTheTapWhileAPromptHasThem)
-{
-    Listener listener(Listener::kEverything, [this] { return !secure_.isActive(); });
-    instruments::XTestKeyboard keyboard;
-    editor_.takeFocus();
-    keyboard.press(KEY_A);
-    EXPECT_EQ(listener.until("d0:0"), "d0:0 ");
-    {
-        XWindow prompt({.instance = "pinentry", .className = "pinentry-qt"});
-        prompt.takeFocus();
-        ASSERT_TRUE(becomesSecure());
-        keyboard.release(KEY_A);
-        for (const std::uint16_t key : std::array<std::uint16_t, 4>{KEY_S, KEY_E, KEY_C, KEY_ENTER}) {
-            keyboard.press(key);
-            keyboard.release(key);
-        }
-        keyboard.pressButton(1);
-        keyboard.releaseButton(1);
-        EXPECT_EQ(listener.until("l"), "l ");
-    }
-    ASSERT_TRUE(becomesPlain());
-    keyboard.press(KEY_B);
-    EXPECT_EQ(listener.until("d11:0"), "u0:0 d11:0 ");
 }
 
 TEST_F(DesktopWatchTest, NeverWaitsForAServerThatHangs)
