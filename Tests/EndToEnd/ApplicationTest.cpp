@@ -2,6 +2,7 @@
 #include "EndToEnd/Tray.h"
 #include "Instruments/Now.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

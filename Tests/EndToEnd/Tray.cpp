@@ -2,6 +2,7 @@
 
 #include "EndToEnd/InterfaceAtWork.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>

@@ -22,7 +22,7 @@ from collections import defaultdict
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-TIDY = "clang-tidy-14"
+TIDY = "clang-tidy"
 FOLDERS = ("Sources", "Tools", "Tests", "Benchmarks")
 ROOT = Path(__file__).resolve().parents[2]
 STAMPS = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "tocca/tidy"

@@ -19,6 +19,8 @@ constexpr const char* kName = "tocca-recorder";
 constexpr std::chrono::milliseconds kPoll{2};
 constexpr std::size_t kMinQuantum = 32;
 constexpr double kNanosecond = 1e-9;
+/// What gives the data thread real-time scheduling; without it a busy computer makes it miss cycles.
+constexpr const char* kConfiguration = PW_CHECK_VERSION(1, 3, 81) ? "client.conf" : "client-rt.conf";
 
 template <typename Wanted>
 bool waitFor(std::chrono::milliseconds deadline, Wanted isThere)
@@ -46,9 +48,8 @@ public:
         loop_ = pw_thread_loop_new(kName, nullptr);
         pw_thread_loop_lock(loop_);
         pw_thread_loop_start(loop_);
-        // Without this configuration the data thread is an ordinary one, and a busy computer makes it miss cycles.
         context_ = pw_context_new(pw_thread_loop_get_loop(loop_),
-                                  pw_properties_new(PW_KEY_CONFIG_NAME, "client-rt.conf", nullptr), 0);
+                                  pw_properties_new(PW_KEY_CONFIG_NAME, kConfiguration, nullptr), 0);
         core_ = pw_context_connect(context_, nullptr, 0);
         if (core_ != nullptr) {
             connect();

@@ -4,6 +4,7 @@
 #include "Player/RenderSource.h"
 #include "Support/ThreadRole.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cmath>

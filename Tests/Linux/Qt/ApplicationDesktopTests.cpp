@@ -70,6 +70,7 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
         application.setActivationPolicy(ActivationPolicy::regular);
         window->makeKeyAndOrderFront();
         EXPECT_TRUE(runUntil([&] { return content.isShown(); }));
+        EXPECT_TRUE(contains(property(content.id(), "_NET_WM_ICON"), "Icon (32 x 32)"));
         application.setActivationPolicy(ActivationPolicy::accessory);
         application.setActivationPolicy(ActivationPolicy::accessory);
         application.terminate();

@@ -19,7 +19,11 @@ constexpr Rect kFrame{100, 600, 320, 46};
 class PanelsDesktop : public ::testing::Test {
 protected:
     /// A compositor without shadows and fading, which would be in the way of what is looked at.
-    void compose() { compositor_.emplace(std::vector<std::string>{"picom", "--config", "/dev/null"}); }
+    void compose()
+    {
+        compositor_.emplace(
+            std::vector<std::string>{"picom", "--backend", "xrender", "--config", "/dev/null"});
+    }
 
     void stopComposing()
     {

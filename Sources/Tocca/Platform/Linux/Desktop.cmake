@@ -28,7 +28,7 @@ app_module(tocca_linux_x11
 
 # The tests link to what Qt's resources bring along, from another directory.
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Qml Quick)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Qml Quick Svg)
 
 # The whole desktop on Qt's event loop.
 app_module(tocca_linux_desktop
@@ -80,7 +80,8 @@ app_module(tocca_linux_desktop
         Platform/Linux/Freedesktop/DBusReply.h
         Platform/Linux/Qt/Windows/QuickView.h
         Platform/Linux/Tray/MenuNode.h
-    DEPENDS tocca_linux_audio tocca_linux_x11 Qt6::Core Qt6::DBus Qt6::Gui Qt6::Qml Qt6::Quick)
+    DEPENDS tocca_linux_audio tocca_linux_x11 Qt6::Core Qt6::DBus Qt6::Gui Qt6::Qml Qt6::Quick
+    PRIVATE_DEPENDS Qt6::Svg)
 app_precompile(tocca_linux_desktop
     <functional> <memory> <optional> <string> <vector>
     <QDBusConnection> <QDBusPendingCallWatcher> <QGuiApplication> <QObject> <QQuickWindow> <QTimer>)

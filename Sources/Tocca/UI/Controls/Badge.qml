@@ -13,7 +13,7 @@ Rectangle {
 
     implicitWidth: row.implicitWidth + 12
     implicitHeight: row.implicitHeight + 6
-    color: Qt.alpha(root.ink, 0.12)
+    color: Blend.alpha(root.ink, 0.12)
     radius: 4
     Accessible.name: root.text
     Accessible.role: Accessible.StaticText

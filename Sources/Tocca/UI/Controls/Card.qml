@@ -28,7 +28,7 @@ Item {
             anchors.topMargin: 1 - index
             anchors.bottomMargin: -1 - index
             radius: root.radius + index
-            color: Qt.alpha("black", 0.017)
+            color: Blend.alpha("black", 0.017)
         }
     }
 

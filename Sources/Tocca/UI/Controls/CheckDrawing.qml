@@ -11,7 +11,7 @@ Rectangle {
 
     implicitWidth: 18
     implicitHeight: 18
-    border.color: root.checked || root.hovered ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.35))
+    border.color: root.checked || root.hovered ? Theme.amberAccent : Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, 0.35))
     color: root.checked ? Theme.amberAccent : Theme.panelBg
     radius: 5
 

@@ -33,7 +33,7 @@ MouseArea {
         width: root.containsMouse || root.pressed ? 7 : 5
         height: Math.max(28, root.height * root.share)
         radius: width / 2
-        color: Qt.alpha(Theme.textMuted, root.pressed ? 0.7 : 0.45)
+        color: Blend.alpha(Theme.textMuted, root.pressed ? 0.7 : 0.45)
         opacity: root.enabled && (root.moving || root.containsMouse || root.pressed || linger.running) ? 1 : 0
 
         Behavior on opacity {

@@ -39,7 +39,7 @@ MouseArea {
         width: Theme.knobSize + 2
         height: width
         radius: width / 2
-        color: Qt.alpha("black", 0.05)
+        color: Blend.alpha("black", 0.05)
     }
 
     Rectangle {
@@ -50,6 +50,6 @@ MouseArea {
         height: width
         radius: width / 2
         color: Theme.panelBg
-        border.color: root.containsMouse || root.pressed ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.3))
+        border.color: root.containsMouse || root.pressed ? Theme.amberAccent : Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, 0.3))
     }
 }

@@ -13,7 +13,7 @@ Rectangle {
     implicitWidth: Theme.switchWidth
     implicitHeight: Theme.switchHeight
     radius: height / 2
-    color: root.checked ? Theme.amberAccent : Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, root.hovered ? 0.3 : 0.18))
+    color: root.checked ? Theme.amberAccent : Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, root.hovered ? 0.3 : 0.18))
 
     Behavior on color {
         ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
@@ -22,7 +22,7 @@ Rectangle {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
-        color: Qt.alpha("black", root.pressed ? 2 * Theme.pressedShade : root.hovered && root.checked ? Theme.pressedShade : 0)
+        color: Blend.alpha("black", root.pressed ? 2 * Theme.pressedShade : root.hovered && root.checked ? Theme.pressedShade : 0)
     }
 
     Rectangle {
@@ -34,7 +34,7 @@ Rectangle {
         height: Theme.knobSize
         radius: width / 2
         color: Theme.panelBg
-        border.color: Qt.alpha("black", 0.08)
+        border.color: Blend.alpha("black", 0.08)
 
         Behavior on x {
             NumberAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }

@@ -45,7 +45,7 @@ Item {
         renderType: Text.NativeRendering
         selectByMouse: true
         selectedTextColor: Theme.textPrimary
-        selectionColor: Qt.alpha(Theme.amberAccent, 0.3)
+        selectionColor: Blend.alpha(Theme.amberAccent, 0.3)
         text: root.text
         onTextEdited: {
             root.edited(text);

@@ -80,6 +80,6 @@ Rectangle {
     Rectangle {
         anchors.fill: parent
         color: "transparent"
-        border.color: Qt.alpha(Theme.textMuted, 0.35)
+        border.color: Blend.alpha(Theme.textMuted, 0.35)
     }
 }

@@ -9,8 +9,8 @@ Card {
     required property MenuBarViewModel model
 
     objectName: "permissionCard"
-    borderColor: Qt.tint(Theme.cardBorder, Qt.alpha(Theme.warning, 0.5))
-    color: Qt.tint(Theme.cardBg, Qt.alpha(Theme.warning, 0.06))
+    borderColor: Blend.tint(Theme.cardBorder, Blend.alpha(Theme.warning, 0.5))
+    color: Blend.tint(Theme.cardBg, Blend.alpha(Theme.warning, 0.06))
     padding: 12
 
     Symbol {

@@ -64,7 +64,7 @@ Item {
         width: 10
         height: 10
         radius: 5
-        color: Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, 0.25 + 0.75 * strength))
+        color: Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, 0.25 + 0.75 * strength))
         border.color: Theme.panelBg
         border.width: 2
 

@@ -1,4 +1,5 @@
 list(APPEND TOCCA_UI_UNITS
+    Quick/Blend
     Quick/CapsulePlate
     Quick/EdgeLine
     Quick/GlowLight

@@ -11,8 +11,8 @@ Rectangle {
     property bool on
 
     anchors.fill: parent
-    color: root.pressed ? Qt.tint(Theme.cardBg, Qt.alpha("black", Theme.pressedShade)) : Theme.cardBg
-    border.color: root.on ? Qt.alpha(Theme.amberAccent, 0.7) : root.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
+    color: root.pressed ? Blend.tint(Theme.cardBg, Blend.alpha("black", Theme.pressedShade)) : Theme.cardBg
+    border.color: root.on ? Blend.alpha(Theme.amberAccent, 0.7) : root.hovered ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
 
     Behavior on border.color {
         ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }

@@ -19,7 +19,7 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: root.radius
-        color: Qt.alpha("black", root.pressed ? Theme.hoverShade + Theme.pressedShade : root.hovered ? Theme.hoverShade : 0)
+        color: Blend.alpha("black", root.pressed ? Theme.hoverShade + Theme.pressedShade : root.hovered ? Theme.hoverShade : 0)
         border.color: root.hovered ? Theme.cardBorder : "transparent"
     }
 

@@ -21,8 +21,8 @@ MouseArea {
     Rectangle {
         anchors.fill: parent
         radius: Theme.buttonRadius - 2
-        color: root.selected ? Theme.panelBg : Qt.alpha("black", root.pressed ? Theme.pressedShade : root.containsMouse ? Theme.hoverShade : 0)
-        border.color: root.selected ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.textMuted, 0.25)) : "transparent"
+        color: root.selected ? Theme.panelBg : Blend.alpha("black", root.pressed ? Theme.pressedShade : root.containsMouse ? Theme.hoverShade : 0)
+        border.color: root.selected ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, 0.25)) : "transparent"
     }
 
     Label {

@@ -21,7 +21,7 @@ MouseArea {
     Rectangle {
         anchors.fill: parent
         radius: 6
-        color: root.current ? Qt.alpha(Theme.amberAccent, 0.12) : "transparent"
+        color: root.current ? Blend.alpha(Theme.amberAccent, 0.12) : "transparent"
     }
 
     Symbol {

@@ -18,7 +18,7 @@ DropArea {
         anchors.fill: parent
         anchors.margins: 6
         radius: Theme.cardRadius
-        color: Qt.alpha(Theme.panelBg, 0.82)
+        color: Blend.alpha(Theme.panelBg, 0.82)
         border.color: Theme.amberAccent
         border.width: 2
         visible: root.isTargeted

@@ -24,8 +24,8 @@ Pressable {
         anchors.leftMargin: -8
         anchors.rightMargin: -8
         radius: root.radius
-        color: root.isSelected ? Qt.alpha(Theme.amberAccent, root.pressed ? 0.14 : 0.09)
-                               : Qt.alpha("black", root.pressed ? Theme.hoverShade + Theme.pressedShade : root.hovered ? Theme.hoverShade : 0)
+        color: root.isSelected ? Blend.alpha(Theme.amberAccent, root.pressed ? 0.14 : 0.09)
+                               : Blend.alpha("black", root.pressed ? Theme.hoverShade + Theme.pressedShade : root.hovered ? Theme.hoverShade : 0)
     }
 
     Symbol {

@@ -13,8 +13,8 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         radius: root.radius
-        color: root.pressed ? Qt.tint(Theme.panelBg, Qt.alpha("black", Theme.pressedShade)) : Theme.panelBg
-        border.color: root.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, 2 * Theme.hoverBorder)) : Theme.cardBorder
+        color: root.pressed ? Blend.tint(Theme.panelBg, Blend.alpha("black", Theme.pressedShade)) : Theme.panelBg
+        border.color: root.hovered ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, 2 * Theme.hoverBorder)) : Theme.cardBorder
     }
 
     Row {

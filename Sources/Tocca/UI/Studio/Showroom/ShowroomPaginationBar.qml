@@ -42,7 +42,7 @@ Rectangle {
                 width: Math.max(24, number.implicitWidth + 12)
                 height: 22
                 radius: 5
-                color: Qt.alpha(Theme.amberAccent, 0.12)
+                color: Blend.alpha(Theme.amberAccent, 0.12)
 
                 Label {
                     id: number

@@ -19,7 +19,7 @@ Card {
 
     Accessible.name: root.title
     Accessible.role: Accessible.Grouping
-    borderColor: root.isSelected ? Theme.amberAccent : hover.hovered ? Qt.tint(Theme.cardBorder, Qt.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
+    borderColor: root.isSelected ? Theme.amberAccent : hover.hovered ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
     borderWidth: root.isSelected ? 1.5 : 1
     implicitHeight: 132
     padding: 12
@@ -34,8 +34,8 @@ Card {
         width: 32
         height: 32
         radius: 6
-        color: Qt.alpha(root.ink, 0.15)
-        border.color: Qt.alpha(root.ink, 0.35)
+        color: Blend.alpha(root.ink, 0.15)
+        border.color: Blend.alpha(root.ink, 0.35)
 
         SwitchStemShape {
             anchors.centerIn: parent

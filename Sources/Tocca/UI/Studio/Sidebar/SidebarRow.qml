@@ -27,7 +27,7 @@ MouseArea {
     Rectangle {
         anchors.fill: parent
         radius: Theme.buttonRadius
-        color: root.selected ? Qt.alpha(Theme.amberAccent, 0.1) : Qt.alpha("black", root.pressed ? Theme.pressedShade + Theme.hoverShade : root.containsMouse ? Theme.hoverShade : 0)
+        color: root.selected ? Blend.alpha(Theme.amberAccent, 0.1) : Blend.alpha("black", root.pressed ? Theme.pressedShade + Theme.hoverShade : root.containsMouse ? Theme.hoverShade : 0)
     }
 
     Symbol {

@@ -47,7 +47,7 @@ Item {
             anchors.topMargin: -spread + (root.isActive ? 0 : root.factor)
             anchors.bottomMargin: -spread - (root.isActive ? 0 : root.factor)
             radius: 3.5 * root.factor + spread
-            color: root.isActive ? Qt.alpha(Theme.amberAccent, 0.5 / 4) : Qt.alpha("black", 0.15 / 4)
+            color: root.isActive ? Blend.alpha(Theme.amberAccent, 0.5 / 4) : Blend.alpha("black", 0.15 / 4)
         }
     }
 
@@ -57,18 +57,18 @@ Item {
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: root.isActive ? Theme.amberAccent : Qt.tint(Theme.chassisBg, Qt.alpha(Theme.textSecondary, 0.25))
+                color: root.isActive ? Theme.amberAccent : Blend.tint(Theme.chassisBg, Blend.alpha(Theme.textSecondary, 0.25))
             }
             GradientStop {
                 position: 1
-                color: Qt.tint(Theme.chassisBg, root.isActive ? Qt.alpha(Theme.amberAccent, 0.8) : Qt.alpha(Theme.textSecondary, 0.18))
+                color: Blend.tint(Theme.chassisBg, root.isActive ? Blend.alpha(Theme.amberAccent, 0.8) : Blend.alpha(Theme.textSecondary, 0.18))
             }
         }
     }
 
     Label {
         anchors.centerIn: parent
-        color: root.isActive ? "white" : Qt.alpha(Theme.textPrimary, 0.85)
+        color: root.isActive ? "white" : Blend.alpha(Theme.textPrimary, 0.85)
         elide: Text.ElideNone
         font.family: Theme.monoFace
         font.weight: root.isActive ? Font.Bold : Font.Medium

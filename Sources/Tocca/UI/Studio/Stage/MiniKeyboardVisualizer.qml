@@ -17,8 +17,8 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 8 * root.factor
-        color: Qt.alpha(Theme.chassisBg, 0.6)
-        border.color: Qt.alpha("white", 0.1)
+        color: Blend.alpha(Theme.chassisBg, 0.6)
+        border.color: Blend.alpha("white", 0.1)
         border.width: root.factor
     }
 

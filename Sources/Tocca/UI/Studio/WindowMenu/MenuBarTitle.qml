@@ -22,7 +22,7 @@ MouseArea {
         anchors.bottomMargin: 3
         anchors.topMargin: 4
         radius: 5
-        color: root.isOpen ? Qt.alpha(Theme.amberAccent, 0.12) : Qt.alpha("black", root.containsMouse ? 2 * Theme.hoverShade : 0)
+        color: root.isOpen ? Blend.alpha(Theme.amberAccent, 0.12) : Blend.alpha("black", root.containsMouse ? 2 * Theme.hoverShade : 0)
     }
 
     Label {

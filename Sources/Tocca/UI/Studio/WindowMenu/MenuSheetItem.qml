@@ -40,7 +40,7 @@ Item {
         Rectangle {
             anchors.fill: parent
             radius: 6
-            color: root.current ? Qt.alpha(Theme.amberAccent, 0.12) : "transparent"
+            color: root.current ? Blend.alpha(Theme.amberAccent, 0.12) : "transparent"
         }
 
         Symbol {

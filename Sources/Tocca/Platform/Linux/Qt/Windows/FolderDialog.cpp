@@ -3,6 +3,7 @@
 #include "Platform/Linux/Qt/Windows/WindowActivation.h"
 #include "Platform/Linux/Qt/XDesktop.h"
 
+#include <QChildEvent>
 #include <QDir>
 #include <QQmlComponent>
 #include <QQuickWindow>
@@ -33,6 +34,7 @@ std::unique_ptr<FolderDialog> FolderDialog::open(const QString& prompt, Completi
     dialog->window_.reset(window);
     connect(window, SIGNAL(chosen(QUrl)), dialog.get(), SLOT(choose(QUrl)));
     connect(window, SIGNAL(cancelled()), dialog.get(), SLOT(cancel()));
+    window->installEventFilter(dialog.get());
     XDesktop::adopt(*window);
     window->show();
     dialog->bringToFront();
@@ -42,6 +44,15 @@ std::unique_ptr<FolderDialog> FolderDialog::open(const QString& prompt, Completi
 void FolderDialog::bringToFront()
 {
     linux::bringToFront(*window_);
+}
+
+bool FolderDialog::eventFilter(QObject* window, QEvent* event)
+{
+    if (event->type() == QEvent::ChildAdded) {
+        constexpr int kItem = 0; // Popup.Item
+        static_cast<QChildEvent*>(event)->child()->setProperty("popupType", kItem);
+    }
+    return QObject::eventFilter(window, event);
 }
 
 void FolderDialog::choose(const QUrl& folder)

@@ -28,6 +28,9 @@ public:
 
     void bringToFront();
 
+    /// Keeps the dialog inside its window: from 6.8 the toolkit would open another one for it.
+    bool eventFilter(QObject* window, QEvent* event) override;
+
 private:
     explicit FolderDialog(Completion completion);
 

@@ -23,7 +23,7 @@ Window {
     color: palette.window
     palette.highlightedText: "#1c2026"
 
-    Component.onCompleted: dialog.open()
+    onVisibleChanged: if (root.visible) dialog.open()
     onClosing: root.cancelled()
 
     FolderDialog {
