@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <array>
 #include <set>
 
 namespace tocca::soundpack {
@@ -48,36 +48,19 @@ TEST(Packs, HaveAllTheirVariantsSelectedOnce)
 // A parameter that was changed without printing the table anew shows here; one slot of each pack, for time's sake.
 TEST(Packs, KeepASelectionMadeFromTheirPresentParameters)
 {
-    const std::vector<Slot> slots{{Key::Standard, Action::Press},
-                                  {Key::Space, Action::Release},
-                                  {Key::Back, Action::Release},
-                                  {Key::Standard, Action::Release},
-                                  {Key::Back, Action::Press}};
+    const std::array<Slot, 5> slots{{{Key::Standard, Action::Press},
+                                     {Key::Space, Action::Release},
+                                     {Key::Back, Action::Release},
+                                     {Key::Standard, Action::Release},
+                                     {Key::Back, Action::Press}}};
     for (std::size_t i = 0; i < packs().size(); ++i) {
-        SCOPED_TRACE(packs()[i].folder + '/' + fileStem(slots[i]));
-        const Choice choice = selectStrokes(packs()[i], slots[i]);
-        const Selection& kept = selectionOf(packs()[i].folder, slots[i]);
+        const Slot& slot = slots.at(i % slots.size());
+        SCOPED_TRACE(packs()[i].folder + '/' + fileStem(slot));
+        const Choice choice = selectStrokes(packs()[i], slot);
+        const Selection& kept = selectionOf(packs()[i].folder, slot);
         EXPECT_EQ(choice.indices, kept.indices);
         EXPECT_NEAR(choice.gainDb, kept.gainDb, 0.011);
     }
-}
-
-TEST(BigKeys, StrikeTwiceAndTick)
-{
-    const Pack panda = holyPanda();
-    const Slot space{Key::Space, Action::Press};
-    const TunedStroke big = strokeOf(panda, space);
-    const Stroke letter = strokeOf(panda, {Key::Standard, Action::Press}).stroke;
-    ASSERT_EQ(big.stroke.impacts.size(), letter.impacts.size() + 2);
-    EXPECT_GT(big.stroke.lengthMs, letter.lengthMs);
-
-    const auto main = std::ranges::find(big.stroke.impacts, Role::Main, &Impact::role);
-    const Impact& farSide = big.stroke.impacts[big.stroke.impacts.size() - 2];
-    const Impact& wire = big.stroke.impacts.back();
-    EXPECT_GT(farSide.atMs, main->atMs);
-    EXPECT_LT(farSide.speed, main->speed);
-    EXPECT_EQ(wire.drives.front().bank, BankId::Stab);
-    EXPECT_LT(big.tuning.at(BankId::Cap).scale, 1);
 }
 
 } // namespace

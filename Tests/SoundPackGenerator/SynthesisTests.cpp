@@ -2,10 +2,7 @@
 #include "Analysis/Onset.h"
 #include "Analysis/Spectrum.h"
 #include "Model/Packs.h"
-#include "Synthesis/Contacts.h"
-#include "Synthesis/Decimator.h"
 #include "Synthesis/RandomStream.h"
-#include "Synthesis/Rates.h"
 #include "Synthesis/Render.h"
 #include "Synthesis/Resonators.h"
 
@@ -43,45 +40,6 @@ TEST(RandomStream, KeepsItsNumbersForEver)
     RandomStream normal("test");
     EXPECT_DOUBLE_EQ(normal.normal(), 1.1729706799329436);
     EXPECT_DOUBLE_EQ(normal.normal(), -0.19096965411838052);
-}
-
-TEST(Contacts, GiveTheirImpulseWhateverTheirDuration)
-{
-    for (const double duration : {30e-6, 90e-6, 230e-6, 420e-6}) {
-        SCOPED_TRACE(duration);
-        std::vector<double> force(4800);
-        addForce(force, 0.01, 2.0, duration);
-        EXPECT_NEAR(std::accumulate(force.begin(), force.end(), 0.0), 2.0, 0.05);
-
-        const std::vector<double> slow = decimate(force);
-        EXPECT_NEAR(std::accumulate(slow.begin(), slow.end(), 0.0), 2.0, 0.05);
-        EXPECT_NEAR(static_cast<double>(std::ranges::max_element(slow) - slow.begin()), 0.01 * kSampleRate,
-                    12);
-    }
-}
-
-TEST(Contacts, GetHarderAndShorterWithSpeed)
-{
-    const Impact impact{.atMs = 1, .contactUs = 100, .drives = {}};
-    RandomStream slowly("same");
-    RandomStream quickly("same");
-    const StruckImpact slow = strike(impact, 0.5, slowly);
-    const StruckImpact quick = strike(impact, 1.0, quickly);
-    EXPECT_NEAR(quick.impulse / slow.impulse, std::pow(2, 1.2), 1e-9);
-    EXPECT_NEAR(quick.contacts[0].duration / slow.contacts[0].duration, std::pow(2, -0.2), 1e-9);
-    EXPECT_DOUBLE_EQ(quick.at, slow.at);
-}
-
-TEST(Resonators, RingAtTheirFrequencyAndDieInTheirTime)
-{
-    std::vector<double> force(static_cast<std::size_t>(kSampleRate));
-    force[0] = 1;
-    std::vector<double> sound(force.size());
-    resonate({{.hz = 1000, .t60 = 0.5, .amplitude = 0.8}}, force, 1, sound);
-    EXPECT_NEAR(sound[12], 0.8, 0.01); // a quarter of a turn
-    EXPECT_NEAR(spectrumOf(sound).centroidHz, 1000, 10);
-    const auto late = sound.begin() + 24000;
-    EXPECT_NEAR(*std::max_element(late, late + 48), 0.8e-3, 0.02e-3);
 }
 
 TEST(Resonators, OfThePlateAreTheKeyboardsOwn)

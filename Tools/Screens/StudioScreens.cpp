@@ -85,6 +85,14 @@ void takePages(Studio& studio)
     studio.screen.resize(kUsual);
 }
 
+void takeLitStage(Studio& studio)
+{
+    studio.machine.monitor.activeKeyCode.set(49);
+    studio.model.selectTab(StudioTab::stage);
+    studio.screen.take(QStringLiteral("studio-stage-lit"));
+    studio.machine.monitor.activeKeyCode.set(std::nullopt);
+}
+
 void takeShowroomStates(Studio& studio)
 {
     auto& showroom = *studio.model.showroom();
@@ -107,9 +115,6 @@ void takeOtherStates(Studio& studio)
 {
     auto& machine = studio.machine;
     machine.monitor.hasAccessibilityPermission.set(false);
-    machine.monitor.activeKeyCode.set(49);
-    studio.model.selectTab(StudioTab::stage);
-    studio.screen.take(QStringLiteral("studio-stage-lit"));
     machine.smartMute.smartMuteReason.set("Microphone in use");
     machine.smartMute.isSmartMuted.set(true);
     studio.model.selectTab(StudioTab::privacy);
@@ -136,6 +141,7 @@ void takeStudioScreens(const QString& directory, const QString& suffix)
 {
     Studio studio(directory, suffix);
     takePages(studio);
+    takeLitStage(studio);
     takeShowroomStates(studio);
     takeOtherStates(studio);
 }

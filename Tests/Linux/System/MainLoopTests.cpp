@@ -1,5 +1,4 @@
 #include "Linux/System/PolledMachine.h"
-#include "TestKit/RealtimeGuard.h"
 
 #include <gtest/gtest.h>
 
@@ -51,18 +50,6 @@ TEST(LinuxMainQueue, TakesRealtimeAndOrdinaryTasksFromSeveralThreadsInEachOnesOr
         poster.join();
     }
     EXPECT_EQ(outOfOrder, 0);
-}
-
-TEST(LinuxMainQueue, TakesRealtimeTasksWithoutAllocatingOrLocking)
-{
-    LinuxTimers timers;
-    LinuxMainQueue queue(timers);
-    const testkit::RealtimeGuard guard;
-    for (int i = 0; i < 3000; ++i) { // the queue overflows as well
-        queue.postRealtime([i] { (void)i; });
-    }
-    const auto violations = guard.violations();
-    EXPECT_EQ(violations.total(), 0U);
 }
 
 TEST(LinuxMainQueue, DropsItsOldestRealtimeTasksWhenTheMainThreadLagsBehind)

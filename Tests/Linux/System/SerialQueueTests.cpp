@@ -1,5 +1,4 @@
 #include "Platform/Linux/System/Threads/LinuxSerialQueues.h"
-#include "TestKit/RealtimeGuard.h"
 
 #include <gtest/gtest.h>
 
@@ -62,19 +61,6 @@ TEST(LinuxSerialQueue, WakesForEverySingleTask)
         ran.wait(i); // the queue is about to sleep just when the next task comes
     }
     EXPECT_EQ(ran, kTasks);
-}
-
-TEST(LinuxSerialQueue, TakesTasksWithoutAllocatingOrLocking)
-{
-    constexpr int kTasks = 3000; // it overflows as well
-    LinuxSerialQueues queues;
-    const auto queue = queues.make({.label = "guarded"});
-    const testkit::RealtimeGuard guard;
-    for (int i = 0; i < kTasks; ++i) {
-        queue->post([i] { (void)i; });
-    }
-    const auto violations = guard.violations();
-    EXPECT_EQ(violations.total(), 0U);
 }
 
 TEST(LinuxSerialQueue, DestructionWaitsForTheRunningTask)

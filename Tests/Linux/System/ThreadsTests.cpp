@@ -162,23 +162,6 @@ TEST(RunLoop, DetachingWaitsForTheRunningCallback)
     EXPECT_TRUE(hasLeft);
 }
 
-TEST(RunLoop, StopEndsItWithSourcesLeftWhichMayOutliveIt)
-{
-    LinuxThreads threads;
-    WakeDescriptor input;
-    const int descriptor = input.fd();
-    std::unique_ptr<LoopSource> source;
-    std::atomic<bool> isAttached{false};
-    auto thread = threads.start({.name = "loop"}, [&] {
-        source = RunLoop::current()->attach(&descriptor, [] {});
-        isAttached = true;
-        isAttached.notify_all();
-    });
-    isAttached.wait(false);
-    thread.reset();
-    source.reset();
-}
-
 TEST(RunLoop, NeverRunsABodyThatWasStoppedBeforeItBegan)
 {
     const auto loop = std::make_shared<RunLoop>();

@@ -12,7 +12,7 @@ Pack mxBrown();
 Pack mxBlue();
 Pack typewriter();
 
-/// The five built-in packs, in order of rising brightness.
+/// The built-in packs, in order of rising brightness.
 const std::vector<Pack>& packs();
 
 } // namespace tocca::soundpack
