@@ -32,7 +32,6 @@ app_module(tocca_core
         UI/Studio/Showroom/ShowroomItem
         UI/Studio/Showroom/SwitchSelection
         UI/Studio/Showroom/SwitchTraits
-        UI/Studio/Showroom/TextFolding
         UI/Studio/Sidebar/StudioTab
         UI/Studio/Stage/VisualKey
         UI/Studio/WindowMenu/KeyEquivalentText

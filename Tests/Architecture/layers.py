@@ -29,6 +29,7 @@ INTERFACES = {"Desktop"}
 
 # Headers of libraries and of the processor that a layer may use besides the standard library's.
 FOREIGN = {
+    "Support": {"unicode/normalizer2.h", "unicode/uchar.h", "unicode/unistr.h"},
     "Audio": {"simdjson.h"},
     "Player": {"sndfile.h", "soxr.h", "immintrin.h", "xmmintrin.h"},
 }

@@ -1,6 +1,6 @@
 #include "UI/Studio/Showroom/ShowroomCatalogue.h"
 
-#include "UI/Studio/Showroom/TextFolding.h"
+#include "Support/SearchText.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,9 +9,8 @@ namespace tocca::ui {
 
 ShowroomCatalogue::Entry::Entry(ShowroomItem shown)
     : item(std::move(shown))
-    , foldedTitle(foldedCase(item.title))
-    , foldedSubtitle(foldedCase(item.subtitle))
-    , foldedTag(foldedCase(item.tag))
+    , title(searchForm(item.title))
+    , subtitle(searchForm(item.subtitle))
 {}
 
 ShowroomCatalogue::ShowroomCatalogue()
@@ -61,14 +60,13 @@ void ShowroomCatalogue::showNextPage()
 
 void ShowroomCatalogue::match()
 {
-    const std::string search = foldedCase(searchText_);
+    const std::string search = searchForm(searchText_);
     const bool takesEveryTag = selectedFilter_ == filterOptions.front();
-    const std::string tag = foldedCase(selectedFilter_);
     matches_.clear();
     for (const Entry& entry : entries_) {
-        const bool passes = (takesEveryTag || entry.foldedTag == tag) &&
-                            (search.empty() || entry.foldedTitle.find(search) != std::string::npos ||
-                             entry.foldedSubtitle.find(search) != std::string::npos);
+        const bool passes = (takesEveryTag || entry.item.tag == selectedFilter_) &&
+                            (search.empty() || entry.title.find(search) != std::string::npos ||
+                             entry.subtitle.find(search) != std::string::npos);
         if (passes) {
             matches_.push_back(&entry.item);
         }

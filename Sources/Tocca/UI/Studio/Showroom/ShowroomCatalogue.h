@@ -64,9 +64,8 @@ private:
         explicit Entry(ShowroomItem shown);
 
         ShowroomItem item;
-        std::string foldedTitle;
-        std::string foldedSubtitle;
-        std::string foldedTag;
+        std::string title; // as they are searched
+        std::string subtitle;
     };
 
     void match();

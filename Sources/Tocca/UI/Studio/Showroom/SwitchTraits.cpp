@@ -1,6 +1,6 @@
 #include "UI/Studio/Showroom/SwitchTraits.h"
 
-#include "UI/Studio/Showroom/TextFolding.h"
+#include "Support/LowerCase.h"
 
 #include <algorithm>
 #include <array>
@@ -56,9 +56,9 @@ constexpr auto kProfiles = std::to_array<Sign>({
 template <class Signs>
 std::string_view firstTrait(const Signs& signs, std::string_view name, std::string_view otherwise)
 {
-    const std::string folded = foldedCase(name);
-    const auto sign = std::find_if(signs.begin(), signs.end(), [&folded](const Sign& candidate) {
-        return folded.find(candidate.word) != std::string::npos;
+    const std::string lower = lowerCased(name);
+    const auto sign = std::find_if(signs.begin(), signs.end(), [&lower](const Sign& candidate) {
+        return lower.find(candidate.word) != std::string::npos;
     });
     return sign == signs.end() ? otherwise : sign->trait;
 }

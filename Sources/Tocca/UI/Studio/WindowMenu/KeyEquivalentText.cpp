@@ -1,18 +1,16 @@
 #include "UI/Studio/WindowMenu/KeyEquivalentText.h"
 
-#include "UI/Studio/Showroom/TextFolding.h"
-
 #include <algorithm>
 
 namespace tocca::ui {
 
 std::string keyEquivalentText(const platform::KeyEquivalent& equivalent)
 {
-    if (equivalent.key.empty()) {
+    std::string key = equivalent.key;
+    if (key.empty()) {
         return {};
     }
-    std::string key = equivalent.key;
-    const bool isCapital = foldedCase(key) != key;
+    const bool isCapital = key.front() >= 'A' && key.front() <= 'Z';
     std::transform(key.begin(), key.end(), key.begin(), [](char letter) {
         return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - ('a' - 'A')) : letter;
     });
