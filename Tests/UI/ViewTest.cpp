@@ -4,11 +4,8 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QQmlComponent>
 #include <QTest>
 #include <QWheelEvent>
-
-#include <memory>
 
 namespace tocca::ui {
 namespace {
@@ -38,15 +35,6 @@ QString nameOf(QQuickItem& item)
     return interface == nullptr ? QString() : interface->text(QAccessible::Name);
 }
 
-void showOnlyWhereThingsEnd(QQmlEngine& engine)
-{
-    QQmlComponent still(&engine);
-    still.setData(
-        "import QtQml\nimport Tocca.UI\nQtObject { Component.onCompleted: Theme.reducesMotion = true }", {});
-    const std::unique_ptr<QObject> done(still.create());
-    ASSERT_NE(done, nullptr) << qPrintable(still.errorString());
-}
-
 bool isInSight(const QQuickItem& item)
 {
     return item.isVisible() && item.width() > 0 && item.height() > 0;
@@ -70,12 +58,17 @@ QQuickItem* ViewTest::show(const QString& file, QObject& model, QSize size)
     window.contentItem()->setSize(size);
     QQuickItem* view = makeQmlView(engine, file, model, *window.contentItem());
     views_.append(view);
-    showOnlyWhereThingsEnd(engine);
+    reduceMotion();
     window.show();
     window.requestActivate();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     settle();
     return view;
+}
+
+void ViewTest::reduceMotion()
+{
+    setReducesMotion(engine, true);
 }
 
 QQuickItem* ViewTest::item(const QString& objectName)
@@ -152,6 +145,22 @@ void ViewTest::type(const QString& text)
         QTest::sendKeyEvent(QTest::Click, &window, Qt::Key_unknown, letter, Qt::NoModifier);
     }
     settle();
+}
+
+void ViewTest::expectSwitches(std::initializer_list<Switch> switches)
+{
+    for (const auto& [name, setting] : switches) {
+        SCOPED_TRACE(name);
+        const bool before = setting.get();
+        EXPECT_EQ(property(name, "checked").toBool(), before);
+        click(name);
+        EXPECT_EQ(setting.get(), !before);
+        EXPECT_EQ(property(name, "checked").toBool(), !before);
+        key(Qt::Key_Space);
+        EXPECT_EQ(setting.get(), before);
+        setting.set(!before);
+        EXPECT_EQ(property(name, "checked").toBool(), !before);
+    }
 }
 
 void ViewTest::wheel(const QString& objectName, double notches)

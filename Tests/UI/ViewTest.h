@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <initializer_list>
 
 namespace tocca::ui {
 
@@ -37,6 +38,11 @@ protected:
     /// What the named item's property holds.
     [[nodiscard]] QVariant property(const QString& objectName, const char* name);
 
+    [[nodiscard]] QString text(const QString& objectName) { return property(objectName, "text").toString(); }
+
+    /// Makes every change of what is shown immediate, as the desktop may ask for; `show` does so.
+    void reduceMotion();
+
     /// Brings the named item into sight as the keyboard's focus would, then clicks its middle.
     void click(const QString& objectName);
 
@@ -44,6 +50,14 @@ protected:
     void focus(const QString& objectName);
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString& text);
+
+    struct Switch {
+        const char* name;
+        Published<bool>& setting;
+    };
+
+    /// Expects of the named controls that they show their settings, whoever changes them, and invert them by click and by space bar.
+    void expectSwitches(std::initializer_list<Switch> switches);
 
     /// Turns the wheel over the named item. Units: notches, upwards positive.
     void wheel(const QString& objectName, double notches);

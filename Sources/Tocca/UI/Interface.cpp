@@ -20,14 +20,14 @@ void Interface::prepareMenuBar()
 
 void Interface::setReducesMotion(bool reducesMotion)
 {
-    reducesMotion_ = reducesMotion;
-    applyMotion();
+    if (std::exchange(reducesMotion_, reducesMotion) != reducesMotion) {
+        ui::setReducesMotion(engine_, reducesMotion);
+    }
 }
 
 QQuickItem* Interface::makeMenuBarView(QQuickItem& parent)
 {
-    return inMotion(
-        makeQmlView(engine_, QStringLiteral("Popover/MenuBarView.qml"), menuBar_.value(), parent));
+    return makeQmlView(engine_, QStringLiteral("Popover/MenuBarView.qml"), menuBar_.value(), parent);
 }
 
 QQuickItem* Interface::makeMainWindowView(QQuickItem& parent)
@@ -35,32 +35,17 @@ QQuickItem* Interface::makeMainWindowView(QQuickItem& parent)
     if (!mainWindow_) {
         mainWindow_.emplace(Controllers::shared());
     }
-    return inMotion(makeQmlView(engine_, QStringLiteral("Studio/MainWindowView.qml"), *mainWindow_, parent));
+    return makeQmlView(engine_, QStringLiteral("Studio/MainWindowView.qml"), *mainWindow_, parent);
 }
 
 QQuickItem* Interface::makeNotchHUDView(QQuickItem& parent)
 {
-    return inMotion(ui::makeNotchHUDView(engine_, NotchAcousticHUDController::shared(), parent));
+    return ui::makeNotchHUDView(engine_, NotchAcousticHUDController::shared(), parent);
 }
 
 QQuickItem* Interface::makeUnderglowView(QQuickItem& parent)
 {
-    return inMotion(ui::makeSpatialUnderglowView(engine_, SpatialUnderglowController::shared(), parent));
-}
-
-QQuickItem* Interface::inMotion(QQuickItem* item)
-{
-    applyMotion();
-    return item;
-}
-
-void Interface::applyMotion()
-{
-    // The theme is there from the first view on.
-    const int theme = qmlTypeId("Tocca.UI", 1, 0, "Theme");
-    if (auto* const object = theme >= 0 ? engine_.singletonInstance<QObject*>(theme) : nullptr) {
-        object->setProperty("reducesMotion", reducesMotion_);
-    }
+    return ui::makeSpatialUnderglowView(engine_, SpatialUnderglowController::shared(), parent);
 }
 
 } // namespace tocca::ui

@@ -39,9 +39,6 @@ public:
     [[nodiscard]] QQuickItem* makeUnderglowView(QQuickItem& parent);
 
 private:
-    [[nodiscard]] QQuickItem* inMotion(QQuickItem* item);
-    void applyMotion();
-
     const Commands commands_;
     QQmlEngine engine_;
     bool reducesMotion_ = false;

@@ -6,6 +6,8 @@
 #include <QUrl>
 #include <QVariant>
 
+#include <memory>
+
 namespace tocca::ui {
 
 namespace {
@@ -16,13 +18,18 @@ QString modules()
     return QStringLiteral("qrc:/qt/qml");
 }
 
-} // namespace
-
-QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model, QQuickItem& parent)
+void findModules(QQmlEngine& engine)
 {
     if (!engine.importPathList().contains(modules())) {
         engine.addImportPath(modules());
     }
+}
+
+} // namespace
+
+QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model, QQuickItem& parent)
+{
+    findModules(engine);
     QQmlComponent component(&engine, QUrl(modules() + QStringLiteral("/Tocca/UI/") + file));
     auto* item = qobject_cast<QQuickItem*>(
         component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}}));
@@ -37,6 +44,19 @@ QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model,
     QObject::connect(&parent, &QQuickItem::heightChanged, item,
                      [item, &parent] { item->setHeight(parent.height()); });
     return item;
+}
+
+void setReducesMotion(QQmlEngine& engine, bool reducesMotion)
+{
+    findModules(engine);
+    // A singleton that is written in QML has no type that could be asked for it.
+    QQmlComponent lookup(&engine);
+    lookup.setData("import QtQml; import Tocca.UI; QtObject { readonly property QtObject theme: Theme }", {});
+    const std::unique_ptr<QObject> found(lookup.create());
+    if (found == nullptr) {
+        qFatal("%s", qPrintable(lookup.errorString()));
+    }
+    found->property("theme").value<QObject*>()->setProperty("reducesMotion", reducesMotion);
 }
 
 } // namespace tocca::ui

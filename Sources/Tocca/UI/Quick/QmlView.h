@@ -13,4 +13,7 @@ namespace tocca::ui {
 [[nodiscard]] QQuickItem* makeQmlView(QQmlEngine& engine, const QString& file, QObject& model,
                                       QQuickItem& parent);
 
+/// Makes every change of what the engine's views show immediate, or gradual as it is at first.
+void setReducesMotion(QQmlEngine& engine, bool reducesMotion);
+
 } // namespace tocca::ui
