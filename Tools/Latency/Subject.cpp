@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/Qt/Windows/QuickView.h"
 #include "UI/NotchHUD/NotchHUDViewModel.h"
+#include "UI/Quick/QmlView.h"
 #include "UI/Underglow/SpatialUnderglowViewModel.h"
 
 #include <QGuiApplication>
@@ -29,12 +30,14 @@ Subject::Subject()
     , monitor_(host_, engine_)
     , hud_(host_, engine_, monitor_,
            [this] {
-               return std::make_unique<platform::linux::QuickView>(
-                   [this](QQuickItem& parent) { return ui::makeNotchHUDView(views_, hud_, parent); });
+               return std::make_unique<platform::linux::QuickView>([this](QQuickItem& parent) {
+                   return ui::makeOverlayView<ui::NotchHUDViewModel>(views_, hud_, parent);
+               });
            })
     , underglow_(host_, engine_, [this] {
-        return std::make_unique<platform::linux::QuickView>(
-            [this](QQuickItem& parent) { return ui::makeSpatialUnderglowView(views_, underglow_, parent); });
+        return std::make_unique<platform::linux::QuickView>([this](QQuickItem& parent) {
+            return ui::makeOverlayView<ui::SpatialUnderglowViewModel>(views_, underglow_, parent);
+        });
     })
 {
     engine_.selectedCustomPack.set(pack_.info());

@@ -40,12 +40,12 @@ QQuickItem* Interface::makeMainWindowView(QQuickItem& parent)
 
 QQuickItem* Interface::makeNotchHUDView(QQuickItem& parent)
 {
-    return ui::makeNotchHUDView(engine_, NotchAcousticHUDController::shared(), parent);
+    return makeOverlayView<NotchHUDViewModel>(engine_, NotchAcousticHUDController::shared(), parent);
 }
 
 QQuickItem* Interface::makeUnderglowView(QQuickItem& parent)
 {
-    return ui::makeSpatialUnderglowView(engine_, SpatialUnderglowController::shared(), parent);
+    return makeOverlayView<SpatialUnderglowViewModel>(engine_, SpatialUnderglowController::shared(), parent);
 }
 
 } // namespace tocca::ui

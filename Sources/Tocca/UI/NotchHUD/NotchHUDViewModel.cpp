@@ -1,9 +1,6 @@
 #include "UI/NotchHUD/NotchHUDViewModel.h"
 
 #include "UI/NotchHUD/Waveform.h"
-#include "UI/Quick/QmlView.h"
-
-#include <QQuickItem>
 
 namespace tocca::ui {
 
@@ -25,15 +22,6 @@ bool NotchHUDViewModel::isFast() const
 const SpringParameters& NotchHUDViewModel::motion() const
 {
     return isExpanded() ? NotchAcousticHUDController::kOpening : NotchAcousticHUDController::kClosing;
-}
-
-QQuickItem* makeNotchHUDView(QQmlEngine& engine, NotchAcousticHUDController& controller, QQuickItem& parent)
-{
-    auto* model = new NotchHUDViewModel(controller, &parent);
-    QQuickItem* view =
-        makeQmlView(engine, QStringLiteral("NotchHUD/NotchHUDContentView.qml"), *model, parent);
-    model->setParent(view);
-    return view;
 }
 
 } // namespace tocca::ui

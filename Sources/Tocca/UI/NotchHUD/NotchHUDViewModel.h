@@ -5,18 +5,16 @@
 
 #include <QQmlEngine>
 
-class QQuickItem;
-
 namespace tocca::ui {
 
-/// What the HUD's view shows.
+/// The model of the HUD's view.
 ///
 /// Order: `motionChanged` is emitted before `isExpandedChanged`, so that a spring knows how to move when it is told where to.
 /// Threads: main.
 class NotchHUDViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by makeNotchHUDView")
+    QML_UNCREATABLE("made by makeOverlayView")
     Q_PROPERTY(bool isExpanded READ isExpanded NOTIFY isExpandedChanged FINAL)
     Q_PROPERTY(bool isAnimated READ isAnimated NOTIFY motionChanged FINAL)
     Q_PROPERTY(double response READ response NOTIFY motionChanged FINAL)
@@ -25,6 +23,8 @@ class NotchHUDViewModel : public QObject {
     Q_PROPERTY(bool isFast READ isFast NOTIFY speedChanged FINAL)
 
 public:
+    static constexpr const char* kFile = "NotchHUD/NotchHUDContentView.qml";
+
     NotchHUDViewModel(NotchAcousticHUDController& controller, QObject* parent);
 
     [[nodiscard]] bool isExpanded() const { return controller_.isExpanded.get(); }
@@ -56,9 +56,5 @@ private:
     UI_PROPERTY(QString, switchName, controller_.switchName)
     UI_PROPERTY(double, currentEnergy, controller_.currentEnergy)
 };
-
-/// Makes the HUD's view for `controller`, which outlives it, inside `parent`.
-[[nodiscard]] QQuickItem* makeNotchHUDView(QQmlEngine& engine, NotchAcousticHUDController& controller,
-                                           QQuickItem& parent);
 
 } // namespace tocca::ui

@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QQuickItem>
 #include <QString>
 
-class QObject;
 class QQmlEngine;
-class QQuickItem;
 
 namespace tocca::ui {
 
@@ -15,5 +14,15 @@ namespace tocca::ui {
 
 /// Makes every change of what the engine's views show immediate, or gradual as it is at first.
 void setReducesMotion(QQmlEngine& engine, bool reducesMotion);
+
+/// Makes the view that `Model::kFile` names, with a model of its own on `controller`, which outlives it.
+template <class Model, class Controller>
+[[nodiscard]] QQuickItem* makeOverlayView(QQmlEngine& engine, Controller& controller, QQuickItem& parent)
+{
+    auto* model = new Model(controller, &parent);
+    QQuickItem* view = makeQmlView(engine, QString::fromLatin1(Model::kFile), *model, parent);
+    model->setParent(view);
+    return view;
+}
 
 } // namespace tocca::ui

@@ -1,19 +1,6 @@
 #include "UI/Underglow/SpatialUnderglowViewModel.h"
 
-#include "UI/Quick/QmlView.h"
-
-#include <QQuickItem>
-
 namespace tocca::ui {
-
-namespace {
-
-QColor toColor(const platform::Colour& colour)
-{
-    return {colour.red, colour.green, colour.blue};
-}
-
-} // namespace
 
 SpatialUnderglowViewModel::SpatialUnderglowViewModel(SpatialUnderglowController& controller, QObject* parent)
     : QObject(parent)
@@ -23,22 +10,12 @@ SpatialUnderglowViewModel::SpatialUnderglowViewModel(SpatialUnderglowController&
 
 QColor SpatialUnderglowViewModel::primaryColor() const
 {
-    return toColor(controller_.currentTheme.get().primaryColor());
+    return toQColor(controller_.currentTheme.get().primaryColor());
 }
 
 QColor SpatialUnderglowViewModel::secondaryColor() const
 {
-    return toColor(controller_.currentTheme.get().secondaryColor());
-}
-
-QQuickItem* makeSpatialUnderglowView(QQmlEngine& engine, SpatialUnderglowController& controller,
-                                     QQuickItem& parent)
-{
-    auto* model = new SpatialUnderglowViewModel(controller, &parent);
-    QQuickItem* view =
-        makeQmlView(engine, QStringLiteral("Underglow/SpatialUnderglowContentView.qml"), *model, parent);
-    model->setParent(view);
-    return view;
+    return toQColor(controller_.currentTheme.get().secondaryColor());
 }
 
 } // namespace tocca::ui

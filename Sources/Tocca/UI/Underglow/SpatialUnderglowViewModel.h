@@ -6,19 +6,19 @@
 #include <QColor>
 #include <QQmlEngine>
 
-class QQuickItem;
-
 namespace tocca::ui {
 
-/// What the glow's view shows. Threads: main.
+/// The model of the glow's view. Threads: main.
 class SpatialUnderglowViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("made by makeSpatialUnderglowView")
+    QML_UNCREATABLE("made by makeOverlayView")
     Q_PROPERTY(QColor primaryColor READ primaryColor NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor secondaryColor READ secondaryColor NOTIFY themeChanged FINAL)
 
 public:
+    static constexpr const char* kFile = "Underglow/SpatialUnderglowContentView.qml";
+
     SpatialUnderglowViewModel(SpatialUnderglowController& controller, QObject* parent);
 
     [[nodiscard]] QColor primaryColor() const;
@@ -33,9 +33,5 @@ private:
     UI_PROPERTY(double, pulseXRatio, controller_.pulseXRatio)
     UI_PROPERTY(double, pulseOpacity, controller_.pulseOpacity)
 };
-
-/// Makes the glow's view for `controller`, which outlives it, inside `parent`.
-[[nodiscard]] QQuickItem* makeSpatialUnderglowView(QQmlEngine& engine, SpatialUnderglowController& controller,
-                                                   QQuickItem& parent);
 
 } // namespace tocca::ui
