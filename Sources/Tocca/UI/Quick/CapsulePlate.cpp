@@ -50,7 +50,6 @@ CapsulePlate::CapsulePlate(QQuickItem* parent)
 
 QImage CapsulePlate::draw(const QSize& pixels, qreal scale) const
 {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     const QSizeF size(pixels.width() / scale, pixels.height() / scale);
     const double diagonal = size.width() * size.width() + size.height() * size.height();
     const Light fill = Light::of(color_);
@@ -58,20 +57,16 @@ QImage CapsulePlate::draw(const QSize& pixels, qreal scale) const
     const Light to = Light::of(lineTo_);
     const auto coverage = [scale](double outside) { return std::clamp(0.5 - outside * scale, 0.0, 1.0); };
 
-    for (int row = 0; row < pixels.height(); ++row) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(row)); // NOLINT: what the image's format says
-        for (int column = 0; column < pixels.width(); ++column) {
-            const QPointF point((column + 0.5) / scale, (row + 0.5) / scale);
-            const double outside = distance(point, size);
-            const double along = (point.x() * size.width() + point.y() * size.height()) / diagonal;
-            const Light stroke =
-                (from * (1 - along) + to * along) * (coverage(outside) - coverage(outside + lineWidth_));
-            const Light body = fill * coverage(outside + lineWidth_ / 2);
-            const Light shade{.alpha = shadow_ * shadowAt(point, size)};
-            line[column] = stroke.over(body.over(shade)).pixel(); // NOLINT(*-pointer-arithmetic)
-        }
-    }
-    return image;
+    return picture(pixels, [&](int column, int row) {
+        const QPointF point((column + 0.5) / scale, (row + 0.5) / scale);
+        const double outside = distance(point, size);
+        const double along = (point.x() * size.width() + point.y() * size.height()) / diagonal;
+        const Light stroke =
+            (from * (1 - along) + to * along) * (coverage(outside) - coverage(outside + lineWidth_));
+        const Light body = fill * coverage(outside + lineWidth_ / 2);
+        const Light shade{.alpha = shadow_ * shadowAt(point, size)};
+        return stroke.over(body.over(shade)).pixel();
+    });
 }
 
 } // namespace tocca::ui

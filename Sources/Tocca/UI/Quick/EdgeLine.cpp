@@ -17,19 +17,12 @@ EdgeLine::EdgeLine(QQuickItem* parent)
 
 QImage EdgeLine::draw(const QSize& pixels, qreal scale) const
 {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     const Light colour = Light::of(color_);
-    for (int row = 0; row < pixels.height(); ++row) {
+    return picture(pixels, [&](int column, int row) {
         const double top = (pixels.height() - row) / scale; // of the row, above the edge
         const double covered = std::clamp((kEdgeLineHeight - top) * scale + 1, 0.0, 1.0);
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(row)); // NOLINT: what the image's format says
-        for (int column = 0; column < pixels.width(); ++column) {
-            const double at = (column + 0.5) / pixels.width();
-            line[column] =
-                (colour * (covered * edgeLineShareAt(at, ratio_))).pixel(); // NOLINT(*-pointer-arithmetic)
-        }
-    }
-    return image;
+        return (colour * (covered * edgeLineShareAt((column + 0.5) / pixels.width(), ratio_))).pixel();
+    });
 }
 
 } // namespace tocca::ui

@@ -27,21 +27,14 @@ GlowLight::GlowLight(QQuickItem* parent)
 
 QImage GlowLight::draw(const QSize& pixels, qreal scale) const
 {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     const Light primary = Light::of(primary_);
     const Light secondary = Light::of(secondary_);
-    for (int row = 0; row < pixels.height(); ++row) {
+    return picture(pixels, [&](int column, int row) {
         const double above = (pixels.height() - row - 0.5) / scale;
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(row)); // NOLINT: what the image's format says
-        for (int column = 0; column < pixels.width(); ++column) {
-            const double beside = (column + 0.5 - pixels.width() / 2.0) / scale;
-            const GlowShares shares = glowSharesAt(beside, above, pixels.height() / scale);
-            // NOLINTNEXTLINE(*-pointer-arithmetic)
-            line[column] =
-                (primary * shares.primary + secondary * shares.secondary).pixel(thresholdAt(column, row));
-        }
-    }
-    return image;
+        const double beside = (column + 0.5 - pixels.width() / 2.0) / scale;
+        const GlowShares shares = glowSharesAt(beside, above, pixels.height() / scale);
+        return (primary * shares.primary + secondary * shares.secondary).pixel(thresholdAt(column, row));
+    });
 }
 
 } // namespace tocca::ui

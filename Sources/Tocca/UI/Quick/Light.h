@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QRgb>
+#include <QSize>
 
 namespace tocca::ui {
 
@@ -38,5 +40,19 @@ struct Light {
         return qRgba(level(red), level(green), level(blue), level(alpha));
     }
 };
+
+/// The picture of `size` whose pixel in each column and row is `pixelAt(column, row)`, premultiplied.
+template <class PixelAt>
+[[nodiscard]] QImage picture(const QSize& size, const PixelAt& pixelAt)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    for (int row = 0; row < size.height(); ++row) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(row)); // NOLINT: what the image's format says
+        for (int column = 0; column < size.width(); ++column) {
+            line[column] = pixelAt(column, row); // NOLINT(*-pointer-arithmetic)
+        }
+    }
+    return image;
+}
 
 } // namespace tocca::ui
