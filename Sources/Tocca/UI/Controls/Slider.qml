@@ -2,27 +2,23 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// A level between two ends. It shows `value` and asks for another one: by drag, wheel, arrows (1 %), Page keys (10 %), Home and End.
+/// A slider from 0 to 1. It shows `value` and asks for another one: by drag, wheel, arrows (1 %), Page keys (10 %), Home and End.
 Item {
     id: root
 
     property string title // for assistive programs
     property real value
-    property real minimumValue: 0
-    property real maximumValue: 1
-    readonly property real stepSize: (maximumValue - minimumValue) / 100
-    readonly property real position: Math.max(0, Math.min((value - minimumValue) / (maximumValue - minimumValue), 1))
 
     signal moved(real value)
 
     function ask(wanted: real): void {
-        const limited = Math.max(root.minimumValue, Math.min(wanted, root.maximumValue));
+        const limited = Math.max(0, Math.min(wanted, 1));
         if (limited !== root.value)
             root.moved(limited);
     }
 
     function askSteps(steps: real): void {
-        root.ask(root.value + steps * root.stepSize);
+        root.ask(root.value + steps / 100);
     }
 
     Accessible.role: Accessible.Slider
@@ -48,8 +44,8 @@ Item {
 
     SliderTrack {
         anchors.fill: parent
-        filled: root.position
-        onPointed: share => root.ask(root.minimumValue + share * (root.maximumValue - root.minimumValue))
+        filled: Math.max(0, Math.min(root.value, 1))
+        onPointed: share => root.ask(share)
         onStepped: steps => root.askSteps(steps)
     }
 

@@ -8,7 +8,6 @@ Column {
 
     property string title
     property string line
-    property color titleColor: Theme.textPrimary
     property color lineColor: Theme.textMuted
     property int titleWeight: Font.DemiBold
     property real titleInset // kept free at the title's right
@@ -18,7 +17,7 @@ Column {
 
     Label {
         width: root.width - root.titleInset
-        color: root.titleColor
+        color: Theme.textPrimary
         font.weight: root.titleWeight
         size: Theme.rowTitleSize
         text: root.title

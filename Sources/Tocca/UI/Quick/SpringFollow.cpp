@@ -2,7 +2,7 @@
 
 namespace tocca::ui {
 
-/// Ticks with the toolkit's animations for as long as the spring moves. Its own time comes in steps of 16 ms, so it is not used.
+/// Ticks with Qt's animations for as long as the spring moves. Its own time comes in steps of 16 ms, so it is not used.
 class SpringFollow::Ticker : public QAbstractAnimation {
 public:
     explicit Ticker(SpringFollow& owner)
@@ -48,7 +48,8 @@ void SpringFollow::setTo(double to)
 void SpringFollow::tick()
 {
     const double time = now();
-    if (spring_.isSettledAt(time, epsilon_)) {
+    constexpr double kNear = 0.0005;
+    if (spring_.isSettledAt(time, kNear)) {
         spring_.snapTo(spring_.target());
         ticker_->stop();
         setValue(spring_.target());

@@ -18,7 +18,6 @@ class SpringFollow : public QObject {
     Q_PROPERTY(double value READ value NOTIFY valueChanged FINAL)
     Q_PROPERTY(double response MEMBER response_ FINAL)
     Q_PROPERTY(double dampingFraction MEMBER dampingFraction_ FINAL)
-    Q_PROPERTY(double epsilon MEMBER epsilon_ FINAL)
     Q_PROPERTY(bool enabled MEMBER isEnabled_ FINAL)
 
 public:
@@ -48,7 +47,6 @@ private:
     double value_ = 0;
     double response_ = 0.3;
     double dampingFraction_ = 1;
-    double epsilon_ = 0.0005;
     bool isEnabled_ = true;
     bool hasTarget_ = false;
     Ticker* ticker_;

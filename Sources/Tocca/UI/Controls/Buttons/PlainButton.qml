@@ -8,9 +8,7 @@ Pressable {
 
     property alias text: face.text
     property alias symbol: face.symbol
-    property alias trailingSymbol: face.trailingSymbol
     property alias color: face.color
-    property alias padding: face.padding
 
     title: root.text
     implicitWidth: face.implicitWidth
