@@ -21,16 +21,13 @@ app_module(tocca_core
         Audio/Packs/SoundPackLoader
         Keyboard/KeyboardMonitor
         UI/Controllers
+        UI/SwitchSelection
         UI/ViewFactory
         UI/NotchHUD/NotchAcousticHUDController
-        UI/Popover/FileUrl
-        UI/Popover/Packs/CommunityPage
         UI/Popover/Packs/PackImport
-        UI/Popover/Packs/SoundPackRows
         UI/Studio/StudioText
         UI/Studio/Showroom/ShowroomCatalogue
         UI/Studio/Showroom/ShowroomItem
-        UI/Studio/Showroom/SwitchSelection
         UI/Studio/Showroom/SwitchTraits
         UI/Studio/Sidebar/StudioTab
         UI/Studio/Stage/VisualKey
@@ -46,6 +43,7 @@ app_module(tocca_core
         Audio/Packs/SoundPackInfo.h
         Keyboard/Debouncer.h
         Keyboard/TypingSpeed.h
+        UI/Pages.h
         UI/StudioTheme.h
         UI/NotchHUD/Waveform.h
         UI/Underglow/Glow.h

@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace tocca::ui {
 namespace {
 
@@ -32,8 +34,6 @@ protected:
         settle();
     }
 
-    QString text(const QString& objectName) { return property(objectName, "text").toString(); }
-
     MenuBarViewModel model{machine.all, [this] { ++windowsShown; }, [this] { ++terminations; }};
     int windowsShown = 0;
     int terminations = 0;
@@ -42,37 +42,19 @@ protected:
 TEST_F(MenuBarViewTest, SwitchesShowTheirSettingAndAskForTheOpposite)
 {
     open();
-
-    struct Row {
-        const char* name;
-        Published<bool>* setting;
-    };
-
-    for (const Row& row : {Row{"isEnabled", &machine.engine.isEnabled},
-                           Row{"autoMuteOnCalls", &machine.smartMute.autoMuteOnCalls},
-                           Row{"muteOnSensitiveApps", &machine.smartMute.muteOnSensitiveApps},
-                           Row{"isSpatialAudioEnabled", &machine.engine.isSpatialAudioEnabled},
-                           Row{"isHapticsEnabled", &machine.engine.isHapticsEnabled},
-                           Row{"isBurstDynamicsEnabled", &machine.engine.isBurstDynamicsEnabled},
-                           Row{"isNotchHUDEnabled", &machine.notchHUD.isEnabled},
-                           Row{"isUnderglowEnabled", &machine.underglow.isEnabled},
-                           Row{"isMouseAudioEnabled", &machine.engine.isMouseAudioEnabled},
-                           Row{"isScrollRatchetEnabled", &machine.engine.isScrollRatchetEnabled},
-                           Row{"isPresenceEQEnabled", &machine.engine.isPresenceEQEnabled},
-                           Row{"playsUpstroke", &machine.engine.playUpstroke},
-                           Row{"launchesAtLogin", &machine.launchAtLogin.isEnabled}}) {
-        SCOPED_TRACE(row.name);
-        const bool before = row.setting->get();
-        EXPECT_EQ(property(row.name, "checked").toBool(), before);
-        click(row.name);
-        EXPECT_EQ(row.setting->get(), !before);
-        EXPECT_EQ(property(row.name, "checked").toBool(), !before);
-        focus(row.name);
-        key(Qt::Key_Space);
-        EXPECT_EQ(row.setting->get(), before);
-        row.setting->set(!before);
-        EXPECT_EQ(property(row.name, "checked").toBool(), !before);
-    }
+    expectSwitches({{"isEnabled", machine.engine.isEnabled},
+                    {"autoMuteOnCalls", machine.smartMute.autoMuteOnCalls},
+                    {"muteOnSensitiveApps", machine.smartMute.muteOnSensitiveApps},
+                    {"isSpatialAudioEnabled", machine.engine.isSpatialAudioEnabled},
+                    {"isHapticsEnabled", machine.engine.isHapticsEnabled},
+                    {"isBurstDynamicsEnabled", machine.engine.isBurstDynamicsEnabled},
+                    {"isNotchHUDEnabled", machine.notchHUD.isEnabled},
+                    {"isUnderglowEnabled", machine.underglow.isEnabled},
+                    {"isMouseAudioEnabled", machine.engine.isMouseAudioEnabled},
+                    {"isScrollRatchetEnabled", machine.engine.isScrollRatchetEnabled},
+                    {"isPresenceEQEnabled", machine.engine.isPresenceEQEnabled},
+                    {"playsUpstroke", machine.engine.playUpstroke},
+                    {"launchesAtLogin", machine.launchAtLogin.isEnabled}});
 }
 
 TEST_F(MenuBarViewTest, ARefusedChangeDoesNotStayOnScreen)
@@ -239,6 +221,58 @@ TEST_F(MenuBarViewTest, ButtonsDoWhatTheySay)
     EXPECT_EQ(property("testInput", "text").toString(), "abc");
 }
 
+TEST_F(MenuBarViewTest, TakesWhatIsDroppedByThePathThatItsAddressNames)
+{
+    struct Row {
+        const char* url;
+        const char* folder; // null where there is none
+    };
+
+    for (const Row& row : {
+             Row{"file:///drops/Alps", "/drops/Alps"},
+             Row{"FILE:/drops/Buckling", "/drops/Buckling"},
+             Row{"file://localhost/drops/Clicky", "/drops/Clicky"},
+             Row{"file:///drops/50%25%20B%C3%BCckling%23?query#part", "/drops/50% B\xC3\xBC"
+                                                                      "ckling#"},
+             Row{"file:///drops/not%FFtext", "/drops/not\xFFtext"},
+             Row{"file://server/drops/Alps", nullptr},
+             Row{"file:drops/Alps", nullptr},
+             Row{"file:///drops/Alps%00", nullptr},
+             Row{"https://example.org/drops/Alps", nullptr},
+             Row{"", nullptr},
+         }) {
+        SCOPED_TRACE(row.url);
+        machine.host.files().write(
+            (row.folder != nullptr ? std::string(row.folder) : "/drops/Alps") + "/press.wav", "press");
+        EXPECT_EQ(model.handleDrop({QUrl::fromEncoded(row.url)}), row.folder != nullptr);
+        machine.host.settle();
+        if (row.folder != nullptr) {
+            const auto& packs = machine.loader.availableCustomPacks.get();
+            EXPECT_TRUE(std::any_of(packs.begin(), packs.end(), [&](const audio::SoundPackInfo& pack) {
+                return pack.folderURL.filename() == std::filesystem::path(row.folder).filename();
+            }));
+        }
+    }
+}
+
+TEST_F(MenuBarViewTest, ChoicesThatThereAreNotChangeNothing)
+{
+    for (const int index : {-1, 99}) {
+        model.chooseBuiltInPack(index);
+        model.chooseCommunityPack(index);
+        model.settings()->chooseDeskSurface(index);
+        model.settings()->chooseMouseProfile(index);
+        model.settings()->chooseUnderglowTheme(index);
+        model.settings()->choosePreset(index);
+    }
+    EXPECT_EQ(machine.engine.currentSwitchType.get(), audio::SwitchType::holyPanda);
+    EXPECT_EQ(machine.engine.selectedCustomPack.get(), std::nullopt);
+    EXPECT_EQ(machine.engine.deskSurface.get(), audio::AcousticDeskSurface::feltDeskmat);
+    EXPECT_EQ(machine.engine.volume.get(), 1.0F);
+    machine.host.settle();
+    EXPECT_EQ(machine.host.audioPlayers().sounds().size(), 0U);
+}
+
 TEST_F(MenuBarViewTest, EachShowingAsksAgainWhatMayHaveChanged)
 {
     machine.host.trustQuery().isGranted = false;
@@ -251,8 +285,8 @@ TEST_F(MenuBarViewTest, EachShowingAsksAgainWhatMayHaveChanged)
     window.show();
     settle();
     machine.host.settle();
-    EXPECT_TRUE(model.hasAccessibilityPermission());
-    EXPECT_TRUE(model.launchesAtLogin());
+    EXPECT_TRUE(model.status()->hasAccessibilityPermission());
+    EXPECT_TRUE(model.settings()->launchesAtLogin());
     EXPECT_TRUE(model.hasCommunityLibrary());
 }
 
@@ -263,40 +297,15 @@ TEST_F(MenuBarViewTest, TheKeyboardReachesEveryControlAndEachHasAName)
     machine.monitor.hasAccessibilityPermission.set(false);
     settle();
     QStringList reached = traversal();
-    const QStringList expected{"openStudio",
-                               "isEnabled",
-                               "quickLeft",
-                               "quickSpacebar",
-                               "quickRight",
-                               "quickHUD",
-                               "openSettings",
-                               "checkAgain",
-                               "import",
-                               "builtInPack0",
-                               "builtInPack4",
-                               "nextPage",
-                               "communityPack0",
-                               "communityPack3",
-                               "autoMuteOnCalls",
-                               "muteOnSensitiveApps",
-                               "isSpatialAudioEnabled",
-                               "isHapticsEnabled",
-                               "isBurstDynamicsEnabled",
-                               "isNotchHUDEnabled",
-                               "isUnderglowEnabled",
-                               "underglowTheme",
-                               "lubeLevel",
-                               "deskSurface",
-                               "isMouseAudioEnabled",
-                               "mouseProfile",
-                               "isScrollRatchetEnabled",
-                               "volume",
-                               "isPresenceEQEnabled",
-                               "playsUpstroke",
-                               "TEST TYPING PAD",
-                               "openTocca",
-                               "launchesAtLogin",
-                               "quit"};
+    const QStringList expected =
+        QString::fromLatin1(
+            "openStudio,isEnabled,quickLeft,quickSpacebar,quickRight,quickHUD,openSettings,"
+            "checkAgain,import,builtInPack0,builtInPack4,nextPage,communityPack0,communityPack3,"
+            "autoMuteOnCalls,muteOnSensitiveApps,isSpatialAudioEnabled,isHapticsEnabled,"
+            "isBurstDynamicsEnabled,isNotchHUDEnabled,isUnderglowEnabled,underglowTheme,lubeLevel,"
+            "deskSurface,isMouseAudioEnabled,mouseProfile,isScrollRatchetEnabled,volume,"
+            "isPresenceEQEnabled,playsUpstroke,TEST TYPING PAD,openTocca,launchesAtLogin,quit")
+            .split(',');
     reached.removeIf([&](const QString& name) { return !expected.contains(name); });
     EXPECT_EQ(reached, expected);
     EXPECT_EQ(unnamedControls(), QStringList());

@@ -1,7 +1,7 @@
 #include "Instruments/ControllersOnMemory.h"
 #include "UI/Studio/Showroom/ShowroomCatalogue.h"
-#include "UI/Studio/Showroom/SwitchSelection.h"
 #include "UI/Studio/Showroom/SwitchTraits.h"
+#include "UI/SwitchSelection.h"
 
 #include <gmock/gmock.h>
 
@@ -54,20 +54,11 @@ TEST(SwitchTraits, FollowFromTheFirstSignInTheName)
 
     constexpr auto kRows = std::to_array<Row>({
         {.name = "Holy Panda", .tag = "Tactile", .weight = "67g", .profile = "Halo Stem"},
-        {.name = "Cherry MX Blue", .tag = "Clicky", .weight = "50g", .profile = "Cherry MX"},
-        {.name = "Cherry MX Brown", .tag = "Tactile", .weight = "60g", .profile = "Cherry MX"},
-        {.name = "NK Cream", .tag = "Linear", .weight = "55g", .profile = "POM Stem"},
-        {.name = "Typewriter", .tag = "Vintage", .weight = "60g", .profile = "Cherry MX"},
         {.name = "Gateron RED", .tag = "Linear", .weight = "45g", .profile = "Cherry MX"},
         {.name = "Topre 45", .tag = "Tactile", .weight = "45cN", .profile = "Electro-Capacitive"},
         {.name = "Blue Panda", .tag = "Clicky", .weight = "67g", .profile = "Halo Stem"},
-        {.name = "Kailh Box White", .tag = "Clicky", .weight = "50g", .profile = "Clickbar"},
         {.name = "Model M", .tag = "Clicky", .weight = "70g", .profile = "Buckling Spring"},
         {.name = "Buckling Red", .tag = "Clicky", .weight = "45g", .profile = "Cherry MX"},
-        {.name = "Oreo", .tag = "Tactile", .weight = "60g", .profile = "Cherry MX"},
-        {.name = "Ink Black", .tag = "Linear", .weight = "55g", .profile = "Cherry MX"},
-        {.name = "Tealios Apex", .tag = "Linear", .weight = "60g", .profile = "Cherry MX"},
-        {.name = "Purple Cream", .tag = "Tactile", .weight = "55g", .profile = "POM Stem"},
         {.name = "Bubble Wrap", .tag = "Novelty", .weight = "60g", .profile = "Cherry MX"},
     });
     for (const Row& row : kRows) {
@@ -112,39 +103,41 @@ TEST(ShowroomCatalogue, TakesWhatPassesSearchAndFilter)
     }
 }
 
-TEST(ShowroomCatalogue, ShowsOnePageAndSaysWhichPart)
+TEST(Pages, ShowOnePartAndTurnNoFurtherThanTheirEnds)
 {
     struct Row {
-        int packCount;
-        int steps; // presses of NEXT
+        const char* name;
+        Pages pages;
         std::size_t shown;
-        int page;
-        int pages;
-        bool canGoOn;
-        std::string_view summary;
+        std::size_t total;
+        std::size_t first;
+        std::size_t end;
+        bool canTurnBack;
+        bool canTurnForward;
     };
 
-    constexpr auto kRows = std::to_array<Row>({
-        {0, 0, 5, 1, 1, false, "SHOWING 1–5 OF 5 SWITCHES (6 PER PAGE)"},
-        {1, 3, 6, 1, 1, false, "SHOWING 1–6 OF 6 SWITCHES (6 PER PAGE)"},
-        {2, 0, 6, 1, 2, true, "SHOWING 1–6 OF 7 SWITCHES (6 PER PAGE)"},
-        {8, 1, 6, 2, 3, true, "SHOWING 7–12 OF 13 SWITCHES (6 PER PAGE)"},
-        {8, 2, 1, 3, 3, false, "SHOWING 13–13 OF 13 SWITCHES (6 PER PAGE)"},
-        {8, 9, 1, 3, 3, false, "SHOWING 13–13 OF 13 SWITCHES (6 PER PAGE)"},
-    });
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(row.summary);
-        ShowroomCatalogue catalogue;
-        catalogue.setCustomPacks(packs(row.packCount));
-        for (int i = 0; i < row.steps; ++i) {
-            catalogue.showNextPage();
-        }
-        EXPECT_EQ(catalogue.paginatedShowroomItems().size(), row.shown);
-        EXPECT_EQ(catalogue.currentPage(), row.page);
-        EXPECT_EQ(catalogue.pageCount(), row.pages);
-        EXPECT_EQ(catalogue.canShowPreviousPage(), row.page > 1);
-        EXPECT_EQ(catalogue.canShowNextPage(), row.canGoOn);
-        EXPECT_EQ(catalogue.summary(), row.summary);
+    for (const Row& row : {
+             Row{"nothing", {.size = 4, .count = 0, .stored = 1}, 1, 1, 0, 0, false, false},
+             Row{"a full page", {.size = 4, .count = 4, .stored = 1}, 1, 1, 0, 4, false, false},
+             Row{"first of two", {.size = 4, .count = 5, .stored = 1}, 1, 2, 0, 4, false, true},
+             Row{"middle of three", {.size = 4, .count = 9, .stored = 2}, 2, 3, 4, 8, true, true},
+             Row{"last of three", {.size = 6, .count = 13, .stored = 3}, 3, 3, 12, 13, true, false},
+             Row{"items have gone", {.size = 4, .count = 2, .stored = 3}, 1, 1, 0, 2, true, false},
+             Row{"all have gone", {.size = 4, .count = 0, .stored = 3}, 1, 1, 0, 0, true, false},
+         }) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(row.pages.shown(), row.shown);
+        EXPECT_EQ(row.pages.total(), row.total);
+        EXPECT_EQ(row.pages.first(), row.first);
+        EXPECT_EQ(row.pages.end(), row.end);
+        EXPECT_EQ(row.pages.canTurnBack(), row.canTurnBack);
+        EXPECT_EQ(row.pages.canTurnForward(), row.canTurnForward);
+        Pages turned = row.pages;
+        turned.turnBack();
+        EXPECT_EQ(turned.stored, row.pages.stored - (row.canTurnBack ? 1 : 0));
+        turned = row.pages;
+        turned.turnForward();
+        EXPECT_EQ(turned.stored, row.pages.stored + (row.canTurnForward ? 1 : 0));
     }
 }
 
@@ -152,56 +145,55 @@ TEST(ShowroomCatalogue, KeepsThePageWhileSearchingAndLeavesItForAFilter)
 {
     ShowroomCatalogue catalogue;
     catalogue.setCustomPacks(packs(8));
+    EXPECT_EQ(catalogue.summary(), "SHOWING 1–6 OF 13 SWITCHES (6 PER PAGE)");
     catalogue.showNextPage();
     catalogue.showNextPage();
+    EXPECT_EQ(catalogue.summary(), "SHOWING 13–13 OF 13 SWITCHES (6 PER PAGE)");
 
     catalogue.setSearchText("pack 1"); // one match, two pages before
     EXPECT_THAT(titles(catalogue.paginatedShowroomItems()), ElementsAre("Pack 1"));
-    EXPECT_EQ(catalogue.showroomPage(), 3);
+    EXPECT_EQ(catalogue.pages().stored, 3U);
     EXPECT_EQ(catalogue.summary(), "SHOWING 1–1 OF 1 SWITCHES (6 PER PAGE)");
-    EXPECT_TRUE(catalogue.canShowPreviousPage());
-    EXPECT_FALSE(catalogue.canShowNextPage());
     catalogue.showPreviousPage();
-    EXPECT_EQ(catalogue.showroomPage(), 2);
+    EXPECT_EQ(catalogue.pages().stored, 2U);
 
     catalogue.setSearchText("none of them");
     EXPECT_THAT(catalogue.paginatedShowroomItems(), IsEmpty());
     EXPECT_EQ(catalogue.summary(), "SHOWING 0–0 OF 0 SWITCHES (6 PER PAGE)");
 
     catalogue.setSearchText("");
-    EXPECT_EQ(catalogue.showroomPage(), 2);
+    EXPECT_EQ(catalogue.pages().stored, 2U);
     catalogue.setSelectedFilter("All");
-    EXPECT_EQ(catalogue.showroomPage(), 1);
+    EXPECT_EQ(catalogue.pages().stored, 1U);
 }
 
-TEST(SwitchSelection, MarksWhatPlaysAndLetsItBeHeard)
+TEST(SwitchSelection, IsOneSoundAmongBuiltInAndImportedAndIsHeard)
 {
-    ControllersOnMemory controllers;
-    controllers.host.files().write("/packs/Alps/press.wav", "alps");
-    const ShowroomItem pack = ShowroomItem::of(packNamed("Alps"));
-    const ShowroomItem panda = ShowroomItem::of(audio::SwitchType::holyPanda);
-    const ShowroomItem cream = ShowroomItem::of(audio::SwitchType::nkCream);
+    ControllersOnMemory machine;
+    machine.host.files().write("/packs/Alps/press.wav", "alps");
+    const audio::SoundPackInfo alps = packNamed("Alps");
     const auto selected = [&] {
-        std::string names;
-        for (const ShowroomItem* item : {&panda, &cream, &pack}) {
-            names += switchSelection::isSelected(*item, controllers.engine) ? item->title + " " : "";
+        std::string names = switchSelection::isSelected(machine.engine, alps) ? "Alps " : "";
+        for (const audio::SwitchType type : audio::SwitchType::allCases) {
+            names +=
+                switchSelection::isSelected(machine.engine, type) ? std::string(type.rawValue()) + " " : "";
         }
-        return names + "/ " + switchSelection::activeSwitchName(controllers.engine);
+        return names + "/ " + switchSelection::activeSwitchName(machine.engine);
     };
     const auto heard = [&] {
-        controllers.host.settle();
-        return textOf(controllers.host.audioPlayers().last().data);
+        machine.host.settle();
+        return textOf(machine.host.audioPlayers().last().data);
     };
     EXPECT_EQ(selected(), "Holy Panda / Holy Panda");
 
-    switchSelection::select(pack, controllers.engine);
+    switchSelection::select(machine.engine, alps);
     EXPECT_EQ(selected(), "Alps / Alps");
+    EXPECT_EQ(machine.engine.currentSwitchType.get(), audio::SwitchType::holyPanda);
     EXPECT_EQ(heard(), "alps");
 
-    switchSelection::select(cream, controllers.engine);
+    switchSelection::select(machine.engine, audio::SwitchType::nkCream);
     EXPECT_EQ(selected(), "NK Cream / NK Cream");
-
-    switchSelection::select(panda, controllers.engine);
+    switchSelection::select(machine.engine, audio::SwitchType::holyPanda);
     EXPECT_EQ(selected(), "Holy Panda / Holy Panda");
     EXPECT_EQ(heard(), "press");
 }

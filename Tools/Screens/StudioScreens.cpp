@@ -99,7 +99,7 @@ void takeShowroomStates(Studio& studio)
     studio.model.selectTab(StudioTab::showroom);
     showroom.showNextPage();
     showroom.select(1);
-    showroom.toggleNotchHUD();
+    studio.model.settings()->toggleNotchHUD();
     studio.screen.take(QStringLiteral("studio-showroom-packs"));
     showroom.chooseFilter(1);
     studio.screen.take(QStringLiteral("studio-showroom-filtered"));

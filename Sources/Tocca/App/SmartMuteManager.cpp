@@ -5,6 +5,7 @@
 #include "Platform/Host.h"
 #include "Platform/MainQueue.h"
 #include "Platform/Timers.h"
+#include "Support/DisplayText.h"
 
 #include <algorithm>
 
@@ -66,11 +67,11 @@ void SmartMuteManager::checkApp(const platform::RunningApplication& application)
 {
     if (muteOnSensitiveApps.get() && isSensitiveApplication(application)) {
         isBlacklistedAppActive_ = true;
-        smartMuteReason.set("Privacy • " + application.localizedName.value_or("Password Manager") +
-                            " active");
+        smartMuteReason.set("Privacy • " +
+                            displayText(application.localizedName.value_or("Password Manager")) + " active");
     } else if (autoMuteOnCalls.get() && isCallApplication(application)) {
         isBlacklistedAppActive_ = true;
-        smartMuteReason.set("Call App Active • " + application.localizedName.value_or("Call"));
+        smartMuteReason.set("Call App Active • " + displayText(application.localizedName.value_or("Call")));
     } else {
         isBlacklistedAppActive_ = false;
     }

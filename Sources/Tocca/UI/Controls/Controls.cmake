@@ -30,5 +30,6 @@ list(APPEND TOCCA_UI_QML
     Controls/Buttons/SegmentedPicker.qml
     Controls/Menus/MenuEntry.qml
     Controls/Menus/MenuPicker.qml
+    Controls/Menus/MenuSheet.qml
     Controls/Menus/PopupMenu.qml
     Controls/Menus/PopupMenuSheet.qml)

@@ -2,11 +2,11 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// How switches are greased and what the board stands on.
+/// The popover's section for switch lube and desk surface.
 Section {
     id: root
 
-    required property MenuBarViewModel model
+    required property SettingsViewModel model
     readonly property int indent: Theme.symbolColumn + 10
 
     title: "THE MODDER SUITE"

@@ -2,11 +2,11 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// How loud the sounds are, and two more of their qualities.
+/// The popover's section for volume, presence contour and key release.
 Column {
     id: root
 
-    required property MenuBarViewModel model
+    required property SettingsViewModel model
 
     spacing: Theme.rowGap
 

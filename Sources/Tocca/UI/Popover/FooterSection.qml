@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// The way to the Studio window, the start with the session, the state of capture, and the end.
+/// The end of the popover: way to the Studio window, start with the session, state of capture, and "Quit".
 Column {
     id: root
 
@@ -19,9 +19,9 @@ Column {
     ToggleRow {
         objectName: "launchesAtLogin"
         width: root.width
-        checked: root.model.launchesAtLogin
+        checked: root.model.settings.launchesAtLogin
         title: "Launch at Login"
-        onToggled: root.model.toggleLaunchAtLogin()
+        onToggled: root.model.settings.toggleLaunchAtLogin()
     }
 
     Item {
@@ -34,7 +34,7 @@ Column {
             width: 7
             height: 7
             radius: width / 2
-            color: root.model.hasAccessibilityPermission ? Theme.mintStatus : Theme.amberAccent
+            color: root.model.status.hasAccessibilityPermission ? Theme.mintStatus : Theme.amberAccent
         }
 
         Label {
@@ -44,10 +44,10 @@ Column {
             anchors.right: quit.left
             anchors.rightMargin: 8
             anchors.bottom: parent.verticalCenter
-            color: root.model.hasAccessibilityPermission ? Theme.mintStatus : Theme.amberAccent
+            color: root.model.status.hasAccessibilityPermission ? Theme.mintStatus : Theme.amberAccent
             font.weight: Font.DemiBold
             size: 10.5
-            text: root.model.hasAccessibilityPermission ? "System Hook Active" : "In-App Only (Awaiting Permission)"
+            text: root.model.status.hasAccessibilityPermission ? "System Hook Active" : "In-App Only (Awaiting Permission)"
         }
 
         Label {
@@ -57,7 +57,7 @@ Column {
             anchors.top: parent.verticalCenter
             color: Theme.textMuted
             size: 10.5
-            text: root.model.keystrokeCount + " strokes"
+            text: root.model.status.keystrokes + " strokes"
         }
 
         PushButton {

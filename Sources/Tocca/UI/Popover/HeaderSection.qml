@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// The brand mark, the way to the Studio window and the master switch, over the soundstage.
+/// The top of the popover: brand mark, way to the Studio window, master switch and soundstage.
 Column {
     id: root
 
@@ -16,7 +16,7 @@ Column {
 
         PulsingLogo {
             anchors.verticalCenter: parent.verticalCenter
-            trigger: root.model.keyVisualizerTrigger
+            trigger: root.model.status.keyVisualizerTrigger
         }
 
         PushButton {
@@ -38,17 +38,17 @@ Column {
             objectName: "isEnabled"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            checked: root.model.isEnabled
+            checked: root.model.settings.isEnabled
             title: "Tocca"
-            onToggled: root.model.toggleEnabled()
+            onToggled: root.model.settings.toggleEnabled()
         }
     }
 
     SoundstageStrip {
         objectName: "soundstage"
         width: root.width
-        pan: root.model.lastActiveKeyPan
-        trigger: root.model.keyVisualizerTrigger
-        visible: root.model.isSpatialAudioEnabled
+        pan: root.model.status.lastActiveKeyPan
+        trigger: root.model.status.keyVisualizerTrigger
+        visible: root.model.settings.isSpatialAudioEnabled
     }
 }

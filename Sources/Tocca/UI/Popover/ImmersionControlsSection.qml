@@ -2,11 +2,11 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// How sounds follow the hands.
+/// The popover's section for panning, haptics and burst dynamics.
 Section {
     id: root
 
-    required property MenuBarViewModel model
+    required property SettingsViewModel model
 
     title: "SENSORY IMMERSION"
 

@@ -36,13 +36,13 @@ Rectangle {
 
             HeaderSection { x: column.margin; width: column.width - 2 * x; model: root.model }
             Repeater {
-                model: root.model.isSmartMuted ? 1 : 0
-                delegate: SmartMutedCard { x: column.margin; width: column.width - 2 * x; model: root.model }
+                model: root.model.status.isSmartMuted ? 1 : 0
+                delegate: SmartMutedCard { x: column.margin; width: column.width - 2 * x; model: root.model.status }
             }
             Rule {}
             QuickTestBar { x: column.margin; width: column.width - 2 * x; model: root.model }
             Repeater {
-                model: root.model.hasAccessibilityPermission ? 0 : 1
+                model: root.model.status.hasAccessibilityPermission ? 0 : 1
                 delegate: PermissionCard { x: column.margin; width: column.width - 2 * x; model: root.model }
             }
             Rule {}
@@ -53,17 +53,17 @@ Rectangle {
                 onImported: result => scroll.reveal(result)
             }
             Rule {}
-            SmartMuteControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            SmartMuteControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model.settings }
             Rule {}
-            ImmersionControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            ImmersionControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model.settings }
             Rule {}
-            VisualFlairSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            VisualFlairSection { x: column.margin; width: column.width - 2 * x; model: root.model.settings }
             Rule {}
-            AcousticModderSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            AcousticModderSection { x: column.margin; width: column.width - 2 * x; model: root.model.settings }
             Rule {}
-            PeripheralAudioSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            PeripheralAudioSection { x: column.margin; width: column.width - 2 * x; model: root.model.settings }
             Rule {}
-            AudioControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            AudioControlsSection { x: column.margin; width: column.width - 2 * x; model: root.model.settings }
             Rule {}
             TypingPadSection { x: column.margin; width: column.width - 2 * x }
             Rule {}

@@ -1,34 +1,20 @@
 #include "UI/Popover/MenuBarViewModel.h"
 
-#include "UI/Studio/StudioText.h"
+#include "Audio/Packs/SoundPackLoader.h"
+#include "UI/Quick/FileUrl.h"
+#include "UI/SwitchSelection.h"
 
+#include <span>
 #include <utility>
 
 namespace tocca::ui {
 namespace {
 
-void flip(Published<bool>& setting)
+std::vector<RowsModel<SoundPackRow>::Role> roles()
 {
-    setting.set(!setting.get());
-}
-
-/// The display names of an enumeration's cases.
-template <class Cases>
-QStringList namesOf()
-{
-    QStringList names;
-    for (const Cases value : Cases::allCases) {
-        names.append(toQString(value.rawValue()));
-    }
-    return names;
-}
-
-template <class Cases>
-void chooseCase(Published<Cases>& setting, int index)
-{
-    if (index >= 0 && static_cast<std::size_t>(index) < Cases::allCases.size()) {
-        setting.set(Cases::allCases.at(static_cast<std::size_t>(index)));
-    }
+    using Rows = RowsModel<SoundPackRow>;
+    return {Rows::role<&SoundPackRow::icon>("icon"), Rows::role<&SoundPackRow::title>("title"),
+            Rows::role<&SoundPackRow::line>("line"), Rows::role<&SoundPackRow::isSelected>("isSelected")};
 }
 
 } // namespace
@@ -38,6 +24,8 @@ MenuBarViewModel::MenuBarViewModel(const Controllers& controllers, Action showMa
     , showMainWindow_(std::move(showMainWindow))
     , terminate_(std::move(terminate))
     , import_(controllers_.host, controllers_.soundPackLoader)
+    , builtInPacks_(roles())
+    , communityPacks_(roles())
 {
     links_.push_back(
         controllers_.audioEngine.currentSwitchType.onChange([this](const auto&) { refreshRows(); }));
@@ -50,9 +38,25 @@ MenuBarViewModel::MenuBarViewModel(const Controllers& controllers, Action showMa
 
 void MenuBarViewModel::refreshRows()
 {
-    builtInPacks_.setRows(soundPackRows::builtIn(controllers_.audioEngine));
-    communityPacks_.setRows(soundPackRows::community(
-        controllers_.audioEngine, controllers_.soundPackLoader.availableCustomPacks.get(), community_));
+    const auto& engine = controllers_.audioEngine;
+    std::vector<SoundPackRow> builtIn;
+    for (const audio::SwitchType type : audio::SwitchType::allCases) {
+        builtIn.push_back({.icon = toQString(type.iconName()),
+                           .title = toQString(type.rawValue()),
+                           .line = toQString(type.description()),
+                           .isSelected = switchSelection::isSelected(engine, type)});
+    }
+    builtInPacks_.show(std::move(builtIn));
+
+    std::vector<SoundPackRow> community;
+    const std::span packs = controllers_.soundPackLoader.availableCustomPacks.get();
+    for (const auto& pack : packs.subspan(community_.first(), community_.end() - community_.first())) {
+        community.push_back({.icon = QStringLiteral("waveform.circle.fill"),
+                             .title = toQString(pack.name),
+                             .line = toQString(pack.description),
+                             .isSelected = switchSelection::isSelected(engine, pack)});
+    }
+    communityPacks_.show(std::move(community));
 }
 
 void MenuBarViewModel::refreshCommunity()
@@ -62,39 +66,14 @@ void MenuBarViewModel::refreshCommunity()
     Q_EMIT communityChanged();
 }
 
-QStringList MenuBarViewModel::underglowThemes()
+QString MenuBarViewModel::communityTitle() const
 {
-    return namesOf<UnderglowTheme>();
+    return QStringLiteral("COMMUNITY LIBRARY (%1 SWITCHES)").arg(community_.count);
 }
 
-QString MenuBarViewModel::lubeReading() const
+QString MenuBarViewModel::communityPosition() const
 {
-    return toQString(studioText::lubeReading(controllers_.audioEngine.lubeLevel.get()));
-}
-
-QStringList MenuBarViewModel::deskSurfaces()
-{
-    return namesOf<audio::AcousticDeskSurface>();
-}
-
-QString MenuBarViewModel::deskSurfaceDescription() const
-{
-    return toQString(controllers_.audioEngine.deskSurface.get().description());
-}
-
-QStringList MenuBarViewModel::mouseProfiles()
-{
-    return namesOf<audio::MouseSwitchProfile>();
-}
-
-QString MenuBarViewModel::mouseProfileDescription() const
-{
-    return toQString(controllers_.audioEngine.mouseProfile.get().description());
-}
-
-QString MenuBarViewModel::volumeReading() const
-{
-    return toQString(studioText::percentage(controllers_.audioEngine.volume.get()));
+    return QStringLiteral("%1/%2").arg(community_.shown()).arg(community_.total());
 }
 
 void MenuBarViewModel::aboutToShow()
@@ -102,16 +81,6 @@ void MenuBarViewModel::aboutToShow()
     checkPermission();
     controllers_.launchAtLogin.checkStatus();
     controllers_.soundPackLoader.refreshCustomPacks();
-}
-
-void MenuBarViewModel::showMainWindow()
-{
-    showMainWindow_();
-}
-
-void MenuBarViewModel::terminate()
-{
-    terminate_();
 }
 
 void MenuBarViewModel::playKey(QuickKey key)
@@ -131,31 +100,32 @@ void MenuBarViewModel::checkPermission()
     }
 }
 
-void MenuBarViewModel::openSoundPackImporter()
-{
-    import_.openSoundPackImporter();
-}
-
 bool MenuBarViewModel::handleDrop(const QList<QUrl>& urls)
 {
-    std::vector<std::string> providers;
+    std::vector<std::filesystem::path> folders;
     for (const QUrl& url : urls) {
-        providers.push_back(url.toEncoded().toStdString());
+        if (auto folder = fileUrl::pathOf(url)) {
+            folders.push_back(std::move(*folder));
+        }
     }
-    return import_.handleDrop(providers);
+    return import_.handleDrop(folders);
 }
 
 void MenuBarViewModel::chooseBuiltInPack(int row)
 {
-    soundPackRows::choose(controllers_.audioEngine,
-                          audio::SwitchType::allCases.at(static_cast<std::size_t>(row)));
+    if (builtInPacks_.at(row) != nullptr) {
+        switchSelection::select(controllers_.audioEngine,
+                                audio::SwitchType::allCases.at(static_cast<std::size_t>(row)));
+    }
 }
 
 void MenuBarViewModel::chooseCommunityPack(int row)
 {
-    soundPackRows::choose(controllers_.audioEngine,
-                          controllers_.soundPackLoader.availableCustomPacks.get().at(
-                              community_.first() + static_cast<std::size_t>(row)));
+    if (communityPacks_.at(row) != nullptr) {
+        switchSelection::select(controllers_.audioEngine,
+                                controllers_.soundPackLoader.availableCustomPacks.get().at(
+                                    community_.first() + static_cast<std::size_t>(row)));
+    }
 }
 
 void MenuBarViewModel::turnBack()
@@ -168,96 +138,6 @@ void MenuBarViewModel::turnForward()
 {
     community_.turnForward();
     refreshCommunity();
-}
-
-void MenuBarViewModel::toggleEnabled()
-{
-    flip(controllers_.audioEngine.isEnabled);
-}
-
-void MenuBarViewModel::toggleAutoMuteOnCalls()
-{
-    flip(controllers_.smartMute.autoMuteOnCalls);
-}
-
-void MenuBarViewModel::toggleMuteOnSensitiveApps()
-{
-    flip(controllers_.smartMute.muteOnSensitiveApps);
-}
-
-void MenuBarViewModel::toggleSpatialAudio()
-{
-    flip(controllers_.audioEngine.isSpatialAudioEnabled);
-}
-
-void MenuBarViewModel::toggleHaptics()
-{
-    flip(controllers_.audioEngine.isHapticsEnabled);
-}
-
-void MenuBarViewModel::toggleBurstDynamics()
-{
-    flip(controllers_.audioEngine.isBurstDynamicsEnabled);
-}
-
-void MenuBarViewModel::toggleNotchHUD()
-{
-    flip(controllers_.notchHUD.isEnabled);
-}
-
-void MenuBarViewModel::toggleUnderglow()
-{
-    flip(controllers_.underglow.isEnabled);
-}
-
-void MenuBarViewModel::chooseUnderglowTheme(int index)
-{
-    chooseCase(controllers_.underglow.currentTheme, index);
-}
-
-void MenuBarViewModel::setLubeLevel(double level)
-{
-    controllers_.audioEngine.lubeLevel.set(static_cast<float>(level));
-}
-
-void MenuBarViewModel::chooseDeskSurface(int index)
-{
-    chooseCase(controllers_.audioEngine.deskSurface, index);
-}
-
-void MenuBarViewModel::toggleMouseAudio()
-{
-    flip(controllers_.audioEngine.isMouseAudioEnabled);
-}
-
-void MenuBarViewModel::chooseMouseProfile(int index)
-{
-    chooseCase(controllers_.audioEngine.mouseProfile, index);
-}
-
-void MenuBarViewModel::toggleScrollRatchet()
-{
-    flip(controllers_.audioEngine.isScrollRatchetEnabled);
-}
-
-void MenuBarViewModel::setVolume(double volume)
-{
-    controllers_.audioEngine.volume.set(static_cast<float>(volume));
-}
-
-void MenuBarViewModel::togglePresenceEQ()
-{
-    flip(controllers_.audioEngine.isPresenceEQEnabled);
-}
-
-void MenuBarViewModel::toggleUpstroke()
-{
-    flip(controllers_.audioEngine.playUpstroke);
-}
-
-void MenuBarViewModel::toggleLaunchAtLogin()
-{
-    controllers_.launchAtLogin.toggle();
 }
 
 } // namespace tocca::ui

@@ -2,11 +2,11 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// The sounds of mouse and wheel.
+/// The popover's section for the sounds of mouse and wheel.
 Section {
     id: root
 
-    required property MenuBarViewModel model
+    required property SettingsViewModel model
 
     title: "OMNI-PERIPHERAL AUDIO"
 

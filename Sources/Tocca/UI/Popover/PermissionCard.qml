@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Asks for the permission to hear the whole desktop's keys.
+/// A card that asks for the permission to hear the whole desktop's keys.
 Card {
     id: root
 

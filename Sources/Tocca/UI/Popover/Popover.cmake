@@ -22,6 +22,4 @@ list(APPEND TOCCA_UI_QML
     Popover/Packs/PackDropTarget.qml
     Popover/Packs/SoundPackRow.qml
     Popover/Packs/SoundPackSection.qml)
-list(APPEND TOCCA_UI_UNITS
-    Popover/MenuBarViewModel
-    Popover/Packs/SoundPackRowsViewModel)
+list(APPEND TOCCA_UI_UNITS Popover/MenuBarViewModel)

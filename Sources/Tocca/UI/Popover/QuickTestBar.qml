@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Three keys to hear, and the HUD's switch.
+/// A row of buttons: three keys to hear, and the HUD's switch.
 Row {
     id: root
 
@@ -42,8 +42,8 @@ Row {
         Accessible.checked: on
         hint: "Toggle MacBook Notch Dynamic Island HUD (Off by default)"
         icon: "camera.badge.ellipsis"
-        on: root.model.isNotchHUDEnabled
+        on: root.model.settings.isNotchHUDEnabled
         text: on ? "HUD: ON" : "HUD: OFF"
-        onActivated: root.model.toggleNotchHUD()
+        onActivated: root.model.settings.toggleNotchHUD()
     }
 }

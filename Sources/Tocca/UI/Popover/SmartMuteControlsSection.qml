@@ -2,11 +2,11 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// What silences the sounds by itself.
+/// The popover's section for what silences the sounds by itself.
 Section {
     id: root
 
-    required property MenuBarViewModel model
+    required property SettingsViewModel model
 
     title: "SMART MUTE & PRIVACY"
 

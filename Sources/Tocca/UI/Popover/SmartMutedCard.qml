@@ -2,11 +2,11 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Says that all sound is held back, and why.
+/// A card that says that all sound is held back, and why.
 Card {
     id: root
 
-    required property MenuBarViewModel model
+    required property StatusViewModel model
 
     objectName: "smartMutedCard"
     borderColor: Blend.tint(Theme.cardBorder, Blend.alpha(Theme.warning, 0.5))

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// A field to try the sounds in; its keys are heard like all others.
+/// The popover's field to try the sounds in; its keys are heard like all others.
 Section {
     id: root
 

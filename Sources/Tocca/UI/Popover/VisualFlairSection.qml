@@ -2,11 +2,11 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// What is shown over the desktop while keys are typed.
+/// The popover's section for the two overlays.
 Section {
     id: root
 
-    required property MenuBarViewModel model
+    required property SettingsViewModel model
 
     title: "VISUAL FLAIR & OVERLAYS"
 

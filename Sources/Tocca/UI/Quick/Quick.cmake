@@ -11,5 +11,7 @@ list(APPEND TOCCA_UI_UNITS
     Quick/ToccaBrandLogoView
     Quick/WaveformBars)
 list(APPEND TOCCA_UI_HEADERS
+    Quick/FileUrl.h
     Quick/Light.h
+    Quick/RowsModel.h
     Quick/UiProperty.h)

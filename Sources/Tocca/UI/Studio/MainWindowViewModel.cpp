@@ -5,14 +5,11 @@
 namespace tocca::ui {
 
 MainWindowViewModel::MainWindowViewModel(const Controllers& controllers)
-    : monitor_(controllers.keyboardMonitor)
-    , mainMenu_(controllers.host.mainMenu)
-    , showroom_(controllers)
-    , acoustics_(controllers)
-    , stage_(controllers)
-    , privacy_(controllers)
-    , telemetry_(controllers)
+    : mainMenu_(controllers.host.mainMenu)
     , settings_(controllers)
+    , status_(controllers)
+    , showroom_(controllers)
+    , stage_(controllers)
 {}
 
 QStringList MainWindowViewModel::tabTitles()

@@ -1,12 +1,8 @@
 #pragma once
 
-#include "Keyboard/KeyboardMonitor.h"
 #include "UI/Controllers.h"
-#include "UI/Quick/UiProperty.h"
-#include "UI/Studio/Acoustics/AcousticsViewModel.h"
-#include "UI/Studio/Pages/PrivacyViewModel.h"
-#include "UI/Studio/Pages/SettingsViewModel.h"
-#include "UI/Studio/Pages/TelemetryViewModel.h"
+#include "UI/Settings/SettingsViewModel.h"
+#include "UI/Settings/StatusViewModel.h"
 #include "UI/Studio/Showroom/ShowroomViewModel.h"
 #include "UI/Studio/Sidebar/StudioTab.h"
 #include "UI/Studio/Stage/StageViewModel.h"
@@ -17,7 +13,23 @@
 
 namespace tocca::ui {
 
-/// The Studio window: which page it shows, and the models of the pages.
+/// The names by which QML knows the cases of `StudioTab`.
+namespace studioTab {
+Q_NAMESPACE
+QML_NAMED_ELEMENT(StudioTab)
+
+enum Case : std::uint8_t {
+    Showroom = StudioTab::showroom,
+    Acoustics = StudioTab::acoustics,
+    Stage = StudioTab::stage,
+    Privacy = StudioTab::privacy,
+    Telemetry = StudioTab::telemetry,
+    Settings = StudioTab::settings
+};
+Q_ENUM_NS(Case)
+} // namespace studioTab
+
+/// The model of the Studio window: which page it shows, and the models of the pages.
 ///
 /// Threads: main.
 /// Lifetime: what it holds of the person's choices lasts as long as the content of the window.
@@ -29,16 +41,10 @@ class MainWindowViewModel : public QObject {
     Q_PROPERTY(QStringList tabIcons READ tabIcons CONSTANT FINAL)
     Q_PROPERTY(int selectedTab READ selectedTab NOTIFY selectedTabChanged FINAL)
     Q_PROPERTY(tocca::ui::MainMenuViewModel* mainMenu READ mainMenu CONSTANT FINAL)
-    Q_PROPERTY(tocca::ui::ShowroomViewModel* showroom READ showroom CONSTANT FINAL)
-    Q_PROPERTY(tocca::ui::AcousticsViewModel* acoustics READ acoustics CONSTANT FINAL)
-    Q_PROPERTY(tocca::ui::StageViewModel* stage READ stage CONSTANT FINAL)
-    Q_PROPERTY(tocca::ui::PrivacyViewModel* privacy READ privacy CONSTANT FINAL)
-    Q_PROPERTY(tocca::ui::TelemetryViewModel* telemetry READ telemetry CONSTANT FINAL)
     Q_PROPERTY(tocca::ui::SettingsViewModel* settings READ settings CONSTANT FINAL)
-
-    keyboard::KeyboardMonitor& monitor_;
-
-    UI_PROPERTY(bool, hasAccessibilityPermission, monitor_.hasAccessibilityPermission)
+    Q_PROPERTY(tocca::ui::StatusViewModel* status READ status CONSTANT FINAL)
+    Q_PROPERTY(tocca::ui::ShowroomViewModel* showroom READ showroom CONSTANT FINAL)
+    Q_PROPERTY(tocca::ui::StageViewModel* stage READ stage CONSTANT FINAL)
 
 public:
     explicit MainWindowViewModel(const Controllers& controllers);
@@ -50,17 +56,13 @@ public:
 
     [[nodiscard]] MainMenuViewModel* mainMenu() { return &mainMenu_; }
 
+    [[nodiscard]] SettingsViewModel* settings() { return &settings_; }
+
+    [[nodiscard]] StatusViewModel* status() { return &status_; }
+
     [[nodiscard]] ShowroomViewModel* showroom() { return &showroom_; }
 
-    [[nodiscard]] AcousticsViewModel* acoustics() { return &acoustics_; }
-
     [[nodiscard]] StageViewModel* stage() { return &stage_; }
-
-    [[nodiscard]] PrivacyViewModel* privacy() { return &privacy_; }
-
-    [[nodiscard]] TelemetryViewModel* telemetry() { return &telemetry_; }
-
-    [[nodiscard]] SettingsViewModel* settings() { return &settings_; }
 
     /// Tabs that there are not are ignored.
     Q_INVOKABLE void selectTab(int index);
@@ -70,12 +72,10 @@ public:
 private:
     StudioTab selectedTab_{StudioTab::showroom};
     MainMenuViewModel mainMenu_;
-    ShowroomViewModel showroom_;
-    AcousticsViewModel acoustics_;
-    StageViewModel stage_;
-    PrivacyViewModel privacy_;
-    TelemetryViewModel telemetry_;
     SettingsViewModel settings_;
+    StatusViewModel status_;
+    ShowroomViewModel showroom_;
+    StageViewModel stage_;
 };
 
 } // namespace tocca::ui

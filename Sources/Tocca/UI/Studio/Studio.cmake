@@ -15,7 +15,6 @@ list(APPEND TOCCA_UI_QML
     Studio/Pages/TelemetryCard.qml
     Studio/Pages/TelemetryView.qml
     Studio/Showroom/AuditionButton.qml
-    Studio/Showroom/FilterMenu.qml
     Studio/Showroom/ShowroomGrid.qml
     Studio/Showroom/ShowroomHeader.qml
     Studio/Showroom/ShowroomPaginationBar.qml
@@ -30,19 +29,10 @@ list(APPEND TOCCA_UI_QML
     Studio/Stage/MiniKeyboardVisualizer.qml
     Studio/Stage/StageView.qml
     Studio/WindowMenu/MenuBarStrip.qml
-    Studio/WindowMenu/MenuBarTitle.qml
-    Studio/WindowMenu/MenuSheet.qml
-    Studio/WindowMenu/MenuSheetItem.qml)
+    Studio/WindowMenu/MenuBarTitle.qml)
 list(APPEND TOCCA_UI_UNITS
     Studio/MainWindowViewModel
-    Studio/Acoustics/AcousticsViewModel
-    Studio/Pages/PrivacyViewModel
-    Studio/Pages/SettingsViewModel
-    Studio/Showroom/ShowroomCardsViewModel
     Studio/Showroom/ShowroomViewModel
-    Studio/Stage/MiniKeyboardRowViewModel
     Studio/Stage/MiniKeyboardViewModel
     Studio/Stage/StageViewModel
-    Studio/WindowMenu/MainMenuViewModel
-    Studio/WindowMenu/MenuItemsViewModel)
-list(APPEND TOCCA_UI_HEADERS Studio/Pages/TelemetryViewModel.h)
+    Studio/WindowMenu/MainMenuViewModel)

@@ -1,15 +1,8 @@
 #include "UI/Studio/StudioText.h"
 
 #include <cmath>
-#include <string_view>
 
 namespace tocca::ui::studioText {
-namespace {
-
-constexpr std::string_view kUnreserved =
-    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
-
-} // namespace
 
 std::string percentage(float share)
 {
@@ -36,23 +29,6 @@ std::string lubeReading(float lubeLevel)
 std::string muteStatus(const std::optional<std::string>& reason)
 {
     return reason.value_or("Mute Active: Audio stream currently silenced.");
-}
-
-std::string fileUrl(const std::filesystem::path& path)
-{
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    std::string url = "file://";
-    for (const char byte : path.string()) {
-        if (kUnreserved.find(byte) != std::string_view::npos) {
-            url += byte;
-        } else {
-            const auto value = static_cast<unsigned char>(byte);
-            url += '%';
-            url += kDigits[value >> 4U];
-            url += kDigits[value & 0xFU];
-        }
-    }
-    return url;
 }
 
 } // namespace tocca::ui::studioText

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <array>
-#include <filesystem>
 #include <optional>
 #include <string>
 
-/// What the pages show of numbers and places, as text. Threads: any.
+/// Numbers and states as both windows put them into words. Threads: any.
 namespace tocca::ui::studioText {
 
 /// The volumes that one click sets.
@@ -25,8 +24,5 @@ inline constexpr std::array<float, 4> kVolumePresets{0.25F, 0.5F, 0.75F, 1.0F};
 
 /// The reason of the silence, or that there is silence.
 [[nodiscard]] std::string muteStatus(const std::optional<std::string>& reason);
-
-/// "file:///home/ann/My%20Packs": the address of an absolute path. Source: RFC 8089.
-[[nodiscard]] std::string fileUrl(const std::filesystem::path& path);
 
 } // namespace tocca::ui::studioText

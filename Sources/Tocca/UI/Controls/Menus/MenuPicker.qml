@@ -2,18 +2,24 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Shows one of several options and asks for another through a menu or the arrow keys.
+/// A button that shows one of several options and asks for another through a menu or the arrow keys.
 Pressable {
     id: root
 
     property list<string> options
     property int currentIndex
+    property string symbol // before the option
+    property bool accented // stands out
+    property real textSize: Theme.bodySize
+    property int textWeight: Font.Medium
+    property int chevronSize: 12
+    readonly property string option: options[currentIndex] ?? ""
     readonly property alias opened: menu.opened
 
     signal chosen(int index)
 
     Accessible.role: Accessible.ComboBox
-    Accessible.description: root.options[root.currentIndex] ?? ""
+    Accessible.description: root.option
     implicitWidth: 160
     implicitHeight: Theme.controlHeight
     onActivated: menu.open()
@@ -23,19 +29,33 @@ Pressable {
 
     ButtonGround {
         hovered: root.hovered
+        on: root.accented
+        onStrength: 1
         pressed: root.pressed
         radius: root.radius
     }
 
-    Label {
-        anchors.left: parent.left
-        anchors.leftMargin: 10
-        anchors.right: chevron.left
-        anchors.rightMargin: 6
+    Symbol {
+        id: sign
         anchors.verticalCenter: parent.verticalCenter
-        color: Theme.textPrimary
-        font.weight: Font.Medium
-        text: root.options[root.currentIndex] ?? ""
+        x: 10
+        color: label.color
+        name: root.symbol
+        size: Theme.symbolSize
+        visible: root.symbol !== ""
+    }
+
+    Label {
+        id: label
+        anchors.left: parent.left
+        anchors.leftMargin: sign.visible ? sign.x + sign.width + 6 : 10
+        anchors.right: chevron.left
+        anchors.rightMargin: sign.visible ? 4 : 6
+        anchors.verticalCenter: parent.verticalCenter
+        color: root.accented ? Theme.amberAccent : Theme.textPrimary
+        font.weight: root.textWeight
+        size: root.textSize
+        text: root.option
     }
 
     Symbol {
@@ -43,9 +63,9 @@ Pressable {
         anchors.right: parent.right
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        color: Theme.textMuted
+        color: root.accented ? Theme.amberAccent : Theme.textMuted
         name: "chevron.down"
-        size: 12
+        size: root.chevronSize
     }
 
     PopupMenu {

@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// A list of options over the window, under its target where there is room. Arrows, Return and Escape act in it; a press beside it closes it.
+/// The menu of a picker, which makes its sheet over the window while it is open.
 Item {
     id: root
 
@@ -40,7 +40,7 @@ Item {
         onLoaded: {
             const sheet = item as PopupMenuSheet;
             sheet.chosen.connect(root.take);
-            sheet.refused.connect(root.close);
+            sheet.closed.connect(root.close);
         }
     }
 }

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// The imported sounds, a page at a time.
+/// The list of imported sounds, a page at a time.
 Column {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// Takes folders that are dropped on it, and says so while one hovers.
+/// An area that takes folders dropped on it, and says so while one hovers.
 DropArea {
     id: root
 

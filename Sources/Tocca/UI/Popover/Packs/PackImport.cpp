@@ -6,10 +6,6 @@
 #include "Platform/Host.h"
 #include "Platform/MainQueue.h"
 #include "Support/DisplayText.h"
-#include "UI/Popover/FileUrl.h"
-
-#include <algorithm>
-#include <utility>
 
 namespace tocca::ui {
 
@@ -28,16 +24,13 @@ void PackImport::openSoundPackImporter()
         }));
 }
 
-bool PackImport::handleDrop(const std::vector<std::string>& providers)
+bool PackImport::handleDrop(const std::vector<std::filesystem::path>& folders)
 {
-    const auto first = std::find_if(providers.begin(), providers.end(), isFileUrl);
-    if (first == providers.end()) {
+    if (folders.empty()) {
         return false;
     }
-    if (auto folder = pathOfFileUrl(*first)) {
-        host_.mainQueue.post(
-            lifetime_.guard([this, folder = std::move(*folder)] { importFrom(folder, "Import failed: "); }));
-    }
+    host_.mainQueue.post(
+        lifetime_.guard([this, folder = folders.front()] { importFrom(folder, "Import failed: "); }));
     return true;
 }
 

@@ -33,9 +33,8 @@ public:
     /// Asks for a folder and imports it.
     void openSoundPackImporter();
 
-    /// Takes what was dropped, given as addresses: the first that names a file is imported a moment later, the others are left.
-    /// Returns whether there is one. Errors: one that cannot be read as a path is ignored.
-    bool handleDrop(const std::vector<std::string>& providers);
+    /// Takes the folders that were dropped: the first is imported a moment later, the others are left. Returns whether there is one.
+    bool handleDrop(const std::vector<std::filesystem::path>& folders);
 
 private:
     void importFrom(const std::filesystem::path& folder, std::string_view failure);

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// One sound to choose.
+/// A row that names a sound and chooses it.
 Pressable {
     id: root
 

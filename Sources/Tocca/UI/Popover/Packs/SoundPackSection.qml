@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// The built-in sounds, the imported ones, and how the last import went.
+/// The popover's section for the built-in sounds, the imported ones, and how the last import went.
 Section {
     id: root
 

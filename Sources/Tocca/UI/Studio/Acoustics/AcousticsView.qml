@@ -1,11 +1,12 @@
 import QtQuick
 import Tocca.UI
 
-/// The console with every setting of the sound.
+/// The page with every setting of the sound.
 StudioPage {
     id: root
 
-    required property AcousticsViewModel model
+    required property MainWindowViewModel model
+    readonly property SettingsViewModel settings: model.settings
     readonly property bool isWide: width >= 1040
     readonly property real cardWidth: isWide ? (columnWidth - Theme.cardGap) / 2 : columnWidth
 
@@ -27,7 +28,7 @@ StudioPage {
 
             MasterAttenuator {
                 width: parent.width
-                model: root.model
+                model: root.settings
             }
 
             ConsoleSection {
@@ -39,10 +40,10 @@ StudioPage {
                     objectName: "presenceEQ"
                     width: parent.width
                     badge: "+3dB 100Hz / +2.5dB 3kHz"
-                    checked: root.model.isPresenceEQEnabled
+                    checked: root.settings.isPresenceEQEnabled
                     line: "Contoured equal-loudness curve ensures keystroke resonance cuts through ambient sound and background music, even at low system volume."
                     title: "Thock & Clack Frequency Contour"
-                    onToggled: root.model.togglePresenceEQ()
+                    onToggled: root.settings.togglePresenceEQ()
                 }
             }
 
@@ -54,10 +55,10 @@ StudioPage {
                 CheckToggle {
                     objectName: "upstroke"
                     width: parent.width
-                    checked: root.model.playsUpstroke
+                    checked: root.settings.playsUpstroke
                     line: "Triggers authentic tactile leaf spring release clack upon key depress."
                     title: "Mechanical Spring Recoil (Upstroke)"
-                    onToggled: root.model.toggleUpstroke()
+                    onToggled: root.settings.toggleUpstroke()
                 }
             }
 
@@ -69,10 +70,10 @@ StudioPage {
                 CheckToggle {
                     objectName: "spatialAudio"
                     width: parent.width
-                    checked: root.model.isSpatialAudioEnabled
+                    checked: root.settings.isSpatialAudioEnabled
                     line: "Audio accurately follows the physical coordinate of each key across your stereo field."
                     title: "Physical Keystroke Panning (-55% Left to +55% Right)"
-                    onToggled: root.model.toggleSpatialAudio()
+                    onToggled: root.settings.toggleSpatialAudio()
                 }
             }
 
@@ -84,10 +85,10 @@ StudioPage {
                 CheckToggle {
                     objectName: "haptics"
                     width: parent.width
-                    checked: root.model.isHapticsEnabled
+                    checked: root.settings.isHapticsEnabled
                     line: "Triggers a microscopic physical feedback pulse under your fingers on every actuation."
                     title: "Tactile Mechanical Switch Pulse on Trackpad"
-                    onToggled: root.model.toggleHaptics()
+                    onToggled: root.settings.toggleHaptics()
                 }
             }
         }
@@ -98,17 +99,17 @@ StudioPage {
 
             ModderSuite {
                 width: parent.width
-                model: root.model
+                model: root.settings
             }
 
             PeripheralAudio {
                 width: parent.width
-                model: root.model
+                model: root.settings
             }
 
             VisualFlair {
                 width: parent.width
-                model: root.model
+                model: root.settings
             }
         }
     }

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// A card with a symbol and a title over its rows.
+/// A card of a page: a symbol and a title over rows.
 Card {
     id: root
 

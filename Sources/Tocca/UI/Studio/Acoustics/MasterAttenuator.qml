@@ -2,11 +2,11 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// The volume, by slider and by presets.
+/// The console's card for the volume, by slider and by presets.
 ConsoleSection {
     id: root
 
-    required property AcousticsViewModel model
+    required property SettingsViewModel model
 
     icon: "speaker.wave.3.fill"
     title: "Master Audio Attenuator"

@@ -1,11 +1,11 @@
 import QtQuick
 import Tocca.UI
 
-/// Lube on the stems, and what the keyboard stands on.
+/// The console's card for switch lube and desk surface.
 ConsoleSection {
     id: root
 
-    required property AcousticsViewModel model
+    required property SettingsViewModel model
 
     icon: "drop.fill"
     spacing: 8

@@ -1,11 +1,11 @@
 import QtQuick
 import Tocca.UI
 
-/// The sounds of mouse and wheel.
+/// The console's card for the sounds of mouse and wheel.
 ConsoleSection {
     id: root
 
-    required property AcousticsViewModel model
+    required property SettingsViewModel model
 
     icon: "computermouse.fill"
     title: "Omni-Peripheral Sensory Audio"

@@ -1,11 +1,11 @@
 import QtQuick
 import Tocca.UI
 
-/// The overlays on the desktop.
+/// The console's card for the two overlays.
 ConsoleSection {
     id: root
 
-    required property AcousticsViewModel model
+    required property SettingsViewModel model
 
     icon: "sparkles"
     title: "Visual Flair & Desktop Overlays"

@@ -1,11 +1,13 @@
 import QtQuick
+import Tocca.UI
 
-/// A page that is made when it is first shown, and stays.
+/// The page of a tab, which is made when it is first shown, and stays.
 Loader {
     id: root
 
     required property string file
-    required property QtObject model
+    required property int tab
+    required property MainWindowViewModel model
     required property int headerInset
 
     function load(): void {
@@ -13,6 +15,7 @@ Loader {
             root.setSource(root.file, { model: root.model });
     }
 
+    visible: root.model.selectedTab === root.tab
     onVisibleChanged: root.load()
     Component.onCompleted: root.load()
 

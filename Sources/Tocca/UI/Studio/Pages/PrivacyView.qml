@@ -1,11 +1,11 @@
 import QtQuick
 import Tocca.UI
 
-/// When the sound falls silent by itself.
+/// The page for when the sound falls silent by itself.
 StudioPage {
     id: root
 
-    required property PrivacyViewModel model
+    required property MainWindowViewModel model
 
     title: "Smart Mute & Privacy"
     subtitle: "Intelligent background muting so conference calls and sensitive credentials remain quiet."
@@ -18,10 +18,10 @@ StudioPage {
         CheckToggle {
             objectName: "autoMuteOnCalls"
             width: parent.width
-            checked: root.model.autoMuteOnCalls
+            checked: root.model.settings.autoMuteOnCalls
             line: "Automatically silences keystrokes when microphone streams are detected (Zoom, Meet, Teams, Discord, FaceTime)."
             title: "Auto-Mute on Active Voice/Video Streams"
-            onToggled: root.model.toggleAutoMuteOnCalls()
+            onToggled: root.model.settings.toggleAutoMuteOnCalls()
         }
 
         Item {
@@ -30,7 +30,7 @@ StudioPage {
             Accessible.role: Accessible.AlertMessage
             width: parent.width
             height: reason.height
-            visible: root.model.isSmartMuted
+            visible: root.model.status.isSmartMuted
 
             Rectangle {
                 x: 6
@@ -53,7 +53,7 @@ StudioPage {
                 font.weight: Font.Bold
                 maximumLineCount: 2
                 size: 11
-                text: root.model.muteStatus
+                text: root.model.status.muteStatus
                 wrapMode: Text.Wrap
             }
         }
@@ -67,10 +67,10 @@ StudioPage {
         CheckToggle {
             objectName: "muteOnSensitiveApps"
             width: parent.width
-            checked: root.model.muteOnSensitiveApps
+            checked: root.model.settings.muteOnSensitiveApps
             line: "Automatically silences audio inside 1Password, Bitwarden, Keychain, and screen recording utilities."
             title: "Auto-Silence in Password Managers"
-            onToggled: root.model.toggleMuteOnSensitiveApps()
+            onToggled: root.model.settings.toggleMuteOnSensitiveApps()
         }
     }
 }

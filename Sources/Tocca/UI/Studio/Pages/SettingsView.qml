@@ -1,12 +1,13 @@
 import QtQuick
 import Tocca.UI
 
-/// How the program sits in the system.
+/// The page for the start with the session and the folder of the imported packs.
 StudioPage {
     id: root
 
-    required property SettingsViewModel model
-    readonly property bool hasDirectory: root.model.packsDirectory !== ""
+    required property MainWindowViewModel model
+    readonly property SettingsViewModel settings: model.settings
+    readonly property bool hasDirectory: root.settings.packsDirectory !== ""
 
     title: "System Integration"
     subtitle: "Startup configuration and custom soundpack library directory."
@@ -19,10 +20,10 @@ StudioPage {
         CheckToggle {
             objectName: "launchAtLogin"
             width: parent.width
-            checked: root.model.isLaunchAtLoginEnabled
+            checked: root.settings.launchesAtLogin
             line: "Starts quietly in the menu bar when your Mac turns on."
             title: "Launch Tocca on macOS Startup"
-            onToggled: root.model.toggleLaunchAtLogin()
+            onToggled: root.settings.toggleLaunchAtLogin()
         }
     }
 
@@ -44,7 +45,7 @@ StudioPage {
                 elide: Text.ElideMiddle
                 font.family: root.hasDirectory ? Theme.monoFace : Theme.textFace
                 size: 11
-                text: root.hasDirectory ? root.model.packsDirectory : "This system names no folder for your data."
+                text: root.hasDirectory ? root.settings.packsDirectory : "This system names no folder for your data."
             }
 
             PushButton {
@@ -54,7 +55,7 @@ StudioPage {
                 implicitHeight: 28
                 enabled: root.hasDirectory
                 text: "Open in Finder"
-                onActivated: root.model.openPacksDirectory()
+                onActivated: root.settings.openPacksDirectory()
             }
         }
     }

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// A page: its header, and below it what scrolls.
+/// What all pages but the showroom are made of: a header, and below it cards that scroll.
 Item {
     id: root
 

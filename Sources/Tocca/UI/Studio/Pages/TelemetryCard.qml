@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// A figure with what it measures above it and its unit behind it.
+/// A card with a figure, what it measures above it and its unit behind it.
 Card {
     id: root
 

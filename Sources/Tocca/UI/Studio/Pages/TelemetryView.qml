@@ -1,11 +1,11 @@
 import QtQuick
 import Tocca.UI
 
-/// Figures of the running program.
+/// The page with figures of the running program.
 StudioPage {
     id: root
 
-    required property TelemetryViewModel model
+    required property MainWindowViewModel model
 
     title: "Hardware Telemetry"
     subtitle: "Real-time keystroke tracking, ring buffer latency, and DSP diagnostics."
@@ -22,7 +22,7 @@ StudioPage {
             ink: Theme.amberAccent
             title: "KEYSTROKES RECORDED"
             unit: "EVENTS"
-            value: root.model.keystrokesRecorded
+            value: root.model.status.keystrokes
         }
 
         TelemetryCard {

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Selects a sound and lets it be heard.
+/// The button that selects a sound and lets it be heard.
 Pressable {
     id: root
 

@@ -2,7 +2,6 @@
 
 #include "Support/SearchText.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tocca::ui {
@@ -40,22 +39,8 @@ void ShowroomCatalogue::setSearchText(std::string text)
 void ShowroomCatalogue::setSelectedFilter(std::string filter)
 {
     selectedFilter_ = std::move(filter);
-    showroomPage_ = 1;
+    pages_.stored = 1;
     match();
-}
-
-void ShowroomCatalogue::showPreviousPage()
-{
-    if (canShowPreviousPage()) {
-        --showroomPage_;
-    }
-}
-
-void ShowroomCatalogue::showNextPage()
-{
-    if (canShowNextPage()) {
-        ++showroomPage_;
-    }
 }
 
 void ShowroomCatalogue::match()
@@ -71,33 +56,19 @@ void ShowroomCatalogue::match()
             matches_.push_back(&entry.item);
         }
     }
+    pages_.count = matches_.size();
 }
 
 std::span<const ShowroomItem* const> ShowroomCatalogue::paginatedShowroomItems() const noexcept
 {
-    const std::span all = allShowroomItems();
-    const auto first = static_cast<std::size_t>(currentPage() - 1) * switchesPerPage;
-    return all.subspan(first, std::min<std::size_t>(switchesPerPage, all.size() - first));
-}
-
-int ShowroomCatalogue::pageCount() const noexcept
-{
-    const auto count = static_cast<int>(matches_.size());
-    return std::max(1, (count + switchesPerPage - 1) / switchesPerPage);
-}
-
-int ShowroomCatalogue::currentPage() const noexcept
-{
-    return std::min(showroomPage_, pageCount());
+    return allShowroomItems().subspan(pages_.first(), pages_.end() - pages_.first());
 }
 
 std::string ShowroomCatalogue::summary() const
 {
-    const auto count = static_cast<int>(matches_.size());
-    const int first = count == 0 ? 0 : (currentPage() - 1) * switchesPerPage + 1;
-    const int last = std::min(count, showroomPage_ * switchesPerPage);
-    return "SHOWING " + std::to_string(first) + "–" + std::to_string(last) + " OF " + std::to_string(count) +
-           " SWITCHES (6 PER PAGE)";
+    const std::size_t first = pages_.count == 0 ? 0 : pages_.first() + 1;
+    return "SHOWING " + std::to_string(first) + "–" + std::to_string(pages_.end()) + " OF " +
+           std::to_string(pages_.count) + " SWITCHES (6 PER PAGE)";
 }
 
 } // namespace tocca::ui

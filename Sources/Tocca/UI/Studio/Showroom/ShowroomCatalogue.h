@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Audio/Packs/SoundPackInfo.h"
+#include "UI/Pages.h"
 #include "UI/Studio/Showroom/ShowroomItem.h"
 
 #include <array>
@@ -12,13 +13,13 @@
 
 namespace tocca::ui {
 
-/// What the showroom shows: the built-in switches and the imported packs that pass search and filter, a page at a time.
+/// The list behind the showroom: the built-in switches and the imported packs that pass search and filter, a page at a time.
 ///
 /// Names are made ready for searching once, when the packs change, so that a key typed into the search costs one pass over them.
 /// Threads: one at a time.
 class ShowroomCatalogue {
 public:
-    static constexpr int switchesPerPage = 6;
+    static constexpr std::size_t switchesPerPage = 6;
     static constexpr std::array<std::string_view, 6> filterOptions{"All",    "Tactile", "Clicky",
                                                                    "Linear", "Vintage", "Novelty"};
 
@@ -32,29 +33,21 @@ public:
     /// Returns to the first page.
     void setSelectedFilter(std::string filter);
 
-    void showPreviousPage();
-    void showNextPage();
+    void showPreviousPage() noexcept { pages_.turnBack(); }
+
+    void showNextPage() noexcept { pages_.turnForward(); }
 
     [[nodiscard]] const std::string& searchText() const noexcept { return searchText_; }
 
     [[nodiscard]] const std::string& selectedFilter() const noexcept { return selectedFilter_; }
 
-    /// The page asked for, from 1; may lie beyond the last.
-    [[nodiscard]] int showroomPage() const noexcept { return showroomPage_; }
+    [[nodiscard]] const Pages& pages() const noexcept { return pages_; }
 
     /// Everything that passes. Lifetime: until the next change, as the page's items.
     [[nodiscard]] std::span<const ShowroomItem* const> allShowroomItems() const noexcept { return matches_; }
 
     /// The page's part of it: the last page where the one asked for lies beyond.
     [[nodiscard]] std::span<const ShowroomItem* const> paginatedShowroomItems() const noexcept;
-
-    /// The page that is shown, and how many there are; at least 1 each.
-    [[nodiscard]] int currentPage() const noexcept;
-    [[nodiscard]] int pageCount() const noexcept;
-
-    [[nodiscard]] bool canShowPreviousPage() const noexcept { return showroomPage_ > 1; }
-
-    [[nodiscard]] bool canShowNextPage() const noexcept { return showroomPage_ < pageCount(); }
 
     /// "SHOWING 7–12 OF 13 SWITCHES (6 PER PAGE)".
     [[nodiscard]] std::string summary() const;
@@ -74,7 +67,7 @@ private:
     std::vector<const ShowroomItem*> matches_; // into entries_
     std::string searchText_;
     std::string selectedFilter_{filterOptions.front()};
-    int showroomPage_ = 1;
+    Pages pages_{.size = switchesPerPage};
 };
 
 } // namespace tocca::ui

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// The cards of the page in as many columns of 260 to 360 points as fit.
+/// The cards shown now, in as many columns of 260 to 360 points as fit.
 ScrollArea {
     id: root
 

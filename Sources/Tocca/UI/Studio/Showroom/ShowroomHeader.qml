@@ -6,6 +6,7 @@ Item {
     id: root
 
     required property ShowroomViewModel model
+    required property SettingsViewModel settings
     property int inset
     readonly property bool isNarrow: width < inset + 226 + controls.fixedWidth + 150
 
@@ -37,18 +38,25 @@ Item {
             color: on ? Theme.amberAccent : Theme.textMuted
             height: parent.height
             hint: "Toggle MacBook Notch Dynamic Island HUD (Off by default)"
-            on: root.model.isNotchHUDEnabled
+            on: root.settings.isNotchHUDEnabled
             symbol: on ? "camera.badge.ellipsis" : "camera"
             text: on ? "NOTCH HUD: ON" : "NOTCH HUD: OFF"
-            onActivated: root.model.toggleNotchHUD()
+            onActivated: root.settings.toggleNotchHUD()
         }
 
-        FilterMenu {
+        MenuPicker {
             id: filter
             objectName: "filter"
-            currentIndex: root.model.filterIndex
+            width: 124
             height: parent.height
+            accented: currentIndex > 0
+            chevronSize: 11
+            currentIndex: root.model.filterIndex
             options: root.model.filterOptions
+            symbol: "line.3.horizontal.decrease.circle"
+            textSize: Theme.captionSize
+            textWeight: Font.DemiBold
+            title: "Filter"
             onChosen: index => root.model.chooseFilter(index)
         }
 

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Turns the pages of the showroom and tells which part is shown.
+/// The bar that turns the pages of the showroom and tells which part is shown.
 Rectangle {
     id: root
 

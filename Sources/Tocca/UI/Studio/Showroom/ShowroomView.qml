@@ -1,17 +1,18 @@
 import QtQuick
 import Tocca.UI
 
-/// Every switch and pack as a card, a page at a time.
+/// The showroom: every switch and pack as a card, six at a time.
 Item {
     id: root
 
-    required property ShowroomViewModel model
+    required property MainWindowViewModel model
     property int headerInset
 
     ShowroomHeader {
         id: header
         inset: root.headerInset
-        model: root.model
+        model: root.model.showroom
+        settings: root.model.settings
         x: Theme.pageMargin
         y: Theme.pageMargin
         width: root.width - 2 * Theme.pageMargin
@@ -29,13 +30,13 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: rule.bottom
-        model: root.model
+        model: root.model.showroom
     }
 
     ShowroomPaginationBar {
         id: bar
         anchors.bottom: parent.bottom
-        model: root.model
+        model: root.model.showroom
         width: root.width
     }
 }

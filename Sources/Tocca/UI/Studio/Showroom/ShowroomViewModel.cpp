@@ -1,24 +1,40 @@
 #include "UI/Studio/Showroom/ShowroomViewModel.h"
 
-#include "UI/Studio/Showroom/SwitchSelection.h"
+#include "UI/SwitchSelection.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tocca::ui {
+namespace {
+
+std::vector<RowsModel<ShowroomCard>::Role> roles()
+{
+    using Cards = RowsModel<ShowroomCard>;
+    return {Cards::role<&ShowroomCard::title>("title"),
+            Cards::role<&ShowroomCard::subtitle>("subtitle"),
+            Cards::role<&ShowroomCard::tag>("tag"),
+            Cards::role<&ShowroomCard::weight>("weight"),
+            Cards::role<&ShowroomCard::profile>("profile"),
+            Cards::role<&ShowroomCard::isCustom>("isCustom"),
+            Cards::role<&ShowroomCard::isSelected>("isSelected")};
+}
+
+} // namespace
 
 ShowroomViewModel::ShowroomViewModel(const Controllers& controllers)
     : engine_(controllers.audioEngine)
-    , notchHUD_(controllers.notchHUD)
+    , cards_(roles())
 {
     auto& packs = controllers.soundPackLoader.availableCustomPacks;
     catalogue_.setCustomPacks(packs.get());
-    refresh();
-    packLink_ = packs.onChange([this](const auto& changed) {
-        catalogue_.setCustomPacks(changed);
-        refresh();
-    });
-    customPackLink_ = engine_.selectedCustomPack.onChange([this](const auto&) { cards_.refreshSelection(); });
-    switchTypeLink_ = engine_.currentSwitchType.onChange([this](const auto&) { cards_.refreshSelection(); });
+    refreshPage();
+    links_ = {packs.onChange([this](const auto& changed) {
+                  catalogue_.setCustomPacks(changed);
+                  refreshPage();
+              }),
+              engine_.selectedCustomPack.onChange([this](const auto&) { refreshCards(); }),
+              engine_.currentSwitchType.onChange([this](const auto&) { refreshCards(); })};
 }
 
 QStringList ShowroomViewModel::filterOptions()
@@ -37,44 +53,66 @@ int ShowroomViewModel::filterIndex() const
     return static_cast<int>(found - options.begin());
 }
 
-void ShowroomViewModel::toggleNotchHUD()
-{
-    notchHUD_.isEnabled.set(!notchHUD_.isEnabled.get());
-}
-
 void ShowroomViewModel::search(const QString& text)
 {
     catalogue_.setSearchText(text.toStdString());
-    refresh();
+    refreshPage();
 }
 
 void ShowroomViewModel::chooseFilter(int index)
 {
-    catalogue_.setSelectedFilter(
-        std::string(ShowroomCatalogue::filterOptions.at(static_cast<std::size_t>(index))));
-    refresh();
+    const auto& options = ShowroomCatalogue::filterOptions;
+    if (index >= 0 && static_cast<std::size_t>(index) < options.size()) {
+        catalogue_.setSelectedFilter(std::string(options.at(static_cast<std::size_t>(index))));
+        refreshPage();
+    }
 }
 
 void ShowroomViewModel::showPreviousPage()
 {
     catalogue_.showPreviousPage();
-    refresh();
+    refreshPage();
 }
 
 void ShowroomViewModel::showNextPage()
 {
     catalogue_.showNextPage();
-    refresh();
+    refreshPage();
 }
 
 void ShowroomViewModel::select(int row)
 {
-    switchSelection::select(cards_.item(row), engine_);
+    if (cards_.at(row) == nullptr) {
+        return;
+    }
+    const ShowroomItem& item = *catalogue_.paginatedShowroomItems()[static_cast<std::size_t>(row)];
+    if (item.customPack) {
+        switchSelection::select(engine_, *item.customPack);
+    } else if (item.switchType) {
+        switchSelection::select(engine_, *item.switchType);
+    }
 }
 
-void ShowroomViewModel::refresh()
+void ShowroomViewModel::refreshCards()
 {
-    cards_.show(catalogue_.paginatedShowroomItems());
+    std::vector<ShowroomCard> cards;
+    for (const ShowroomItem* item : catalogue_.paginatedShowroomItems()) {
+        cards.push_back({.title = toQString(item->title),
+                         .subtitle = toQString(item->subtitle),
+                         .tag = toQString(item->tag).toUpper(),
+                         .weight = toQString(item->weight),
+                         .profile = toQString(item->profile).toUpper(),
+                         .isCustom = item->isCustom,
+                         .isSelected = item->customPack
+                                           ? switchSelection::isSelected(engine_, *item->customPack)
+                                           : switchSelection::isSelected(engine_, *item->switchType)});
+    }
+    cards_.show(std::move(cards));
+}
+
+void ShowroomViewModel::refreshPage()
+{
+    refreshCards();
     Q_EMIT pageChanged();
 }
 

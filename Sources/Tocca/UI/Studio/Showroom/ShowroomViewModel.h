@@ -3,22 +3,39 @@
 #include "Audio/AudioEngine.h"
 #include "Audio/Packs/SoundPackLoader.h"
 #include "UI/Controllers.h"
-#include "UI/NotchHUD/NotchAcousticHUDController.h"
+#include "UI/Quick/RowsModel.h"
 #include "UI/Quick/UiProperty.h"
-#include "UI/Studio/Showroom/ShowroomCardsViewModel.h"
 #include "UI/Studio/Showroom/ShowroomCatalogue.h"
 
 #include <QQmlEngine>
 #include <QStringList>
 
+#include <array>
+
 namespace tocca::ui {
 
-/// What the showroom shows and does. Threads: main.
+/// A sound as its card shows it.
+struct ShowroomCard {
+    QString title;
+    QString subtitle;
+    QString tag; // in capitals, as the profile
+    QString weight;
+    QString profile;
+    bool isCustom = false;
+    bool isSelected = false;
+
+    bool operator==(const ShowroomCard&) const = default;
+};
+
+/// The model of the showroom: the cards of a page, what narrows them down, and the choice among them.
+///
+/// Threads: main.
+/// Errors: a row or filter that there is not changes nothing.
 class ShowroomViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the window")
-    Q_PROPERTY(tocca::ui::ShowroomCardsViewModel* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(QAbstractItemModel* cards READ cards CONSTANT FINAL)
     Q_PROPERTY(QList<QString> filterOptions READ filterOptions CONSTANT FINAL)
     Q_PROPERTY(int filterIndex READ filterIndex NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString searchText READ searchText NOTIFY pageChanged FINAL)
@@ -29,15 +46,10 @@ class ShowroomViewModel : public QObject {
     Q_PROPERTY(bool canShowNextPage READ canShowNextPage NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString summary READ summary NOTIFY pageChanged FINAL)
 
-    audio::AudioEngine& engine_;
-    NotchAcousticHUDController& notchHUD_;
-
-    UI_PROPERTY(bool, isNotchHUDEnabled, notchHUD_.isEnabled)
-
 public:
     explicit ShowroomViewModel(const Controllers& controllers);
 
-    [[nodiscard]] ShowroomCardsViewModel* cards() { return &cards_; }
+    [[nodiscard]] QAbstractItemModel* cards() { return &cards_; }
 
     /// In capitals.
     [[nodiscard]] static QStringList filterOptions();
@@ -47,17 +59,16 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return catalogue_.allShowroomItems().empty(); }
 
-    [[nodiscard]] int currentPage() const { return catalogue_.currentPage(); }
+    [[nodiscard]] int currentPage() const { return static_cast<int>(catalogue_.pages().shown()); }
 
-    [[nodiscard]] int pageCount() const { return catalogue_.pageCount(); }
+    [[nodiscard]] int pageCount() const { return static_cast<int>(catalogue_.pages().total()); }
 
-    [[nodiscard]] bool canShowPreviousPage() const { return catalogue_.canShowPreviousPage(); }
+    [[nodiscard]] bool canShowPreviousPage() const { return catalogue_.pages().canTurnBack(); }
 
-    [[nodiscard]] bool canShowNextPage() const { return catalogue_.canShowNextPage(); }
+    [[nodiscard]] bool canShowNextPage() const { return catalogue_.pages().canTurnForward(); }
 
     [[nodiscard]] QString summary() const { return toQString(catalogue_.summary()); }
 
-    Q_INVOKABLE void toggleNotchHUD();
     Q_INVOKABLE void search(const QString& text);
     Q_INVOKABLE void chooseFilter(int index);
     Q_INVOKABLE void showPreviousPage();
@@ -69,13 +80,13 @@ public:
     Q_SIGNAL void pageChanged();
 
 private:
-    void refresh();
+    void refreshCards();
+    void refreshPage();
 
+    audio::AudioEngine& engine_;
     ShowroomCatalogue catalogue_;
-    ShowroomCardsViewModel cards_{engine_};
-    Subscription packLink_;
-    Subscription customPackLink_;
-    Subscription switchTypeLink_;
+    RowsModel<ShowroomCard> cards_;
+    std::array<Subscription, 3> links_;
 };
 
 } // namespace tocca::ui

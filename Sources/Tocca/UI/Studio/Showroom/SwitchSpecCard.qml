@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// One sound: what it is, whether it plays, and the button that lets it be heard.
+/// The card of a sound: what it is, whether it plays, and the button that lets it be heard.
 Card {
     id: root
 

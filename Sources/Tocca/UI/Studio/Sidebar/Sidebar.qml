@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// Brand, the tabs, and whether the session is heard.
+/// The sidebar of the Studio window: brand, tabs, and whether the session is heard.
 FocusScope {
     id: root
 
@@ -66,7 +66,7 @@ FocusScope {
         id: footer
         anchors.bottom: parent.bottom
         width: root.width
-        isHookActive: root.model.hasAccessibilityPermission
+        isHookActive: root.model.status.hasAccessibilityPermission
     }
 
     Divider {

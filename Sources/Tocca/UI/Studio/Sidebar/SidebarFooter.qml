@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Whether the keys of the session are heard.
+/// The end of the sidebar, which says whether the keys of the session are heard.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// The brand, and the button that hides the sidebar.
+/// The top of the sidebar: the brand, and the button that hides it.
 Item {
     id: root
 

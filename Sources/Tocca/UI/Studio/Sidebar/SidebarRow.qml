@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// One tab of the sidebar.
+/// A row of the sidebar that selects a tab.
 MouseArea {
     id: root
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Support/Subscription.h"
-#include "UI/Studio/Stage/MiniKeyboardRowViewModel.h"
+#include "UI/Quick/RowsModel.h"
+#include "UI/Studio/Stage/VisualKey.h"
 
 #include <QObject>
 #include <QQmlEngine>
 
-#include <array>
+#include <cstdint>
+#include <vector>
 
 namespace tocca::keyboard {
 class KeyboardMonitor;
@@ -14,7 +16,18 @@ class KeyboardMonitor;
 
 namespace tocca::ui {
 
-/// The drawn keyboard, lit by the keys that are pressed anywhere. Units: points, given enough room. Threads: main.
+/// A cap as it is drawn.
+struct KeyCap {
+    QString label;
+    double labelSize = 0;
+    double widthRatio = 1;
+    std::uint16_t code = 0;
+    bool isActive = false;
+
+    bool operator==(const KeyCap&) const = default;
+};
+
+/// The model of the drawn keyboard, lit by the keys that are pressed anywhere. Units: points, given enough room. Threads: main.
 class MiniKeyboardViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -34,8 +47,11 @@ public:
 
     [[nodiscard]] static double fullHeight() { return miniKeyboard::fullHeight(); }
 
-    /// Rows count from the top.
-    Q_INVOKABLE tocca::ui::MiniKeyboardRowViewModel* row(int index) const;
+    /// The caps of a row; rows count from the top.
+    Q_INVOKABLE QAbstractItemModel* row(int index) const;
+
+    /// The width of a standard key in a row that has `available` points.
+    Q_INVOKABLE static double unitWidth(int row, double available);
 
 private:
     static constexpr int kRowCount = miniKeyboard::kRowCount;
@@ -44,7 +60,7 @@ private:
     static constexpr double kKeyGap = miniKeyboard::kKeyGap;
     static constexpr double kKeyHeight = miniKeyboard::kKeyHeight;
 
-    std::array<MiniKeyboardRowViewModel*, miniKeyboard::kRowCount> rows_{};
+    std::vector<RowsModel<KeyCap>*> rows_;
     Subscription link_;
 };
 

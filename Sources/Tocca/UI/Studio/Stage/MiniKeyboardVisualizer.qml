@@ -34,14 +34,13 @@ Item {
                 id: row
 
                 required property int index
-                readonly property MiniKeyboardRowViewModel keys: root.model.row(index)
-                readonly property real unit: keys.unitWidth(root.width / root.factor - 2 * root.model.padding) * root.factor
+                readonly property real unit: root.model.unitWidth(index, root.width / root.factor - 2 * root.model.padding) * root.factor
 
                 anchors.horizontalCenter: rows.horizontalCenter
                 spacing: root.model.keyGap * root.factor
 
                 Repeater {
-                    model: row.keys
+                    model: root.model.row(row.index)
 
                     MiniKeyCap {
                         factor: root.factor

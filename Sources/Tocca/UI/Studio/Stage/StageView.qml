@@ -1,11 +1,12 @@
 import QtQuick
 import Tocca.UI
 
-/// The keyboard that responds to every key, and a place to type.
+/// The page with a keyboard that responds to every key, and a place to type.
 StudioPage {
     id: root
 
-    required property StageViewModel model
+    required property MainWindowViewModel model
+    readonly property StageViewModel stage: model.stage
 
     title: "Keyboard Stage"
     subtitle: "Interactive mechanical keyboard responding in real time to keystrokes in any app."
@@ -26,7 +27,7 @@ StudioPage {
             color: Theme.amberAccent
             font.weight: Font.Bold
             size: 14
-            text: root.model.activeSwitchName
+            text: root.stage.activeSwitchName
         }
     }
 
@@ -42,7 +43,7 @@ StudioPage {
             anchors.horizontalCenter: parent.horizontalCenter
             factor: Math.max(1, Math.min(parent.width / model.fullWidth, (root.height - 280) / model.fullHeight, 3.2))
             height: implicitHeight
-            model: root.model.keyboard
+            model: root.stage.keyboard
             width: Math.min(implicitWidth, parent.width)
         }
     }
@@ -75,9 +76,9 @@ StudioPage {
             width: parent.width
             implicitHeight: 40
             placeholder: "Type here to test loud mechanical acoustics & spatial panning..."
-            text: root.model.testTypingText
+            text: root.stage.testTypingText
             title: "Test pad"
-            onEdited: text => root.model.type(text)
+            onEdited: text => root.stage.type(text)
         }
     }
 }

@@ -1,8 +1,7 @@
 #include "UI/Studio/Stage/StageViewModel.h"
 
-#include "Support/DisplayText.h"
 #include "UI/Quick/UiProperty.h"
-#include "UI/Studio/Showroom/SwitchSelection.h"
+#include "UI/SwitchSelection.h"
 
 namespace tocca::ui {
 
@@ -17,7 +16,7 @@ StageViewModel::StageViewModel(const Controllers& controllers)
 
 QString StageViewModel::activeSwitchName() const
 {
-    return toQString(displayText(switchSelection::activeSwitchName(engine_)));
+    return toQString(switchSelection::activeSwitchName(engine_));
 }
 
 void StageViewModel::type(const QString& text)

@@ -10,7 +10,7 @@
 
 namespace tocca::ui {
 
-/// What the stage shows, and the text of its test pad, which nothing keeps. Threads: main.
+/// The model of the stage: the keyboard, the sound that plays, and the text of the test pad, which nothing keeps. Threads: main.
 class StageViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -79,13 +79,40 @@ Rectangle {
         id: sheet
         parent: root.sheetParent
         anchors.fill: parent
-        sheetX: row.x + (titles.itemAt(root.model.openMenu)?.x ?? 0)
+        gap: 3
+        leastWidth: 268
         model: root.model.items
-        sheetY: root.height
+        padding: 5
+        radius: 9
+        target: titles.itemAt(root.model.openMenu)
+        uncovered: root.height
         visible: root.model.openMenu >= 0
         z: 800
-        onClosed: root.close()
+        delegate: MenuEntry {
+            required title
+            required shortcut
+            required isSeparator
+            required isEnabled
+            required isChecked
+
+            onChosen: root.perform(index)
+            onEntered: sheet.current = canBeChosen ? index : -1
+        }
         onChosen: row => root.perform(row)
-        onMoved: step => root.open(root.model.openMenu + step)
+        onClosed: root.close()
+        onStepped: step => current = root.model.nextItem(step < 0 && current < 0 ? 0 : current, step)
+
+        Keys.onLeftPressed: root.open(root.model.openMenu - 1)
+        Keys.onRightPressed: root.open(root.model.openMenu + 1)
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_Alt || event.key === Qt.Key_F10;
+            if (event.accepted)
+                root.close();
+        }
+    }
+
+    Connections {
+        target: root.model
+        function onOpenMenuChanged(): void { sheet.current = -1; }
     }
 }
