@@ -2,7 +2,7 @@
 
 #include "Platform/Desktop/Geometry.h"
 
-/// The colours that both windows share. `Theme.qml` shows the same ones to the views.
+/// The colours that both windows share. The views have them from `Theme`.
 namespace tocca::ui::StudioTheme {
 
 inline constexpr platform::Colour chassisBg{246, 248, 250};  ///< window and page background

@@ -1,21 +1,10 @@
 pragma Singleton
 import QtQuick
+import Tocca.UI
 
-/// Every colour, face, measure and motion of the views, named once.
-QtObject {
-    // The shared set; StudioTheme.h holds the same values for the controllers.
-    readonly property color chassisBg: "#f6f8fa"
-    readonly property color panelBg: "#ffffff"
-    readonly property color cardBg: "#ffffff"
-    readonly property color cardBorder: "#e2e8f0"
-    readonly property color amberAccent: "#d97706"
-    readonly property color amberGlow: "#f59e0b"
-    readonly property color mintStatus: "#059669"
-    readonly property color textPrimary: "#0f172a"
-    readonly property color textSecondary: "#334155"
-    readonly property color textMuted: "#64748b"
+/// Every colour, face, measure and motion of the views, named once; the colours of both windows come from StudioTheme.h.
+StudioColours {
     readonly property color warning: "#ea580c" // the system orange
-    readonly property color cyanAccent: "#06b6d4" // the brand mark's second stroke
 
     // The HUD over the desktop.
     readonly property color hudFill: "#f50c0d10"
@@ -32,7 +21,7 @@ QtObject {
     readonly property string textFace: "Inter"
     readonly property string monoFace: "JetBrains Mono"
 
-    /// Type sizes are given in points of the screen's grid, the toolkit's in 72nds of an inch.
+    /// Type sizes are given in points of the screen's grid, Qt's in 72nds of an inch.
     readonly property real typePoint: 0.75
     readonly property real pageTitleSize: 22
     readonly property real sectionTitleSize: 13

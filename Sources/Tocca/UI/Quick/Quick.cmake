@@ -14,4 +14,5 @@ list(APPEND TOCCA_UI_HEADERS
     Quick/FileUrl.h
     Quick/Light.h
     Quick/RowsModel.h
+    Quick/StudioColours.h
     Quick/UiProperty.h)

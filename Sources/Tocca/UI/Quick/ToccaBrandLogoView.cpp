@@ -1,5 +1,6 @@
 #include "UI/Quick/ToccaBrandLogoView.h"
 
+#include "UI/Quick/UiProperty.h"
 #include "UI/StudioTheme.h"
 
 #include <QPainter>
@@ -13,7 +14,7 @@ constexpr platform::Colour kCyan{6, 182, 212};
 
 QColor toColour(platform::Colour colour, qreal opacity = 1)
 {
-    QColor result(colour.red, colour.green, colour.blue);
+    QColor result = toQColor(colour);
     result.setAlphaF(static_cast<float>(opacity));
     return result;
 }

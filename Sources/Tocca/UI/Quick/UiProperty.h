@@ -1,8 +1,10 @@
 #pragma once
 
+#include "Platform/Desktop/Geometry.h"
 #include "Support/Published.h"
 #include "Support/Subscription.h"
 
+#include <QColor>
 #include <QObject>
 #include <QString>
 
@@ -31,6 +33,11 @@ template <class Type>
 [[nodiscard]] QString toQt(const std::optional<std::string>& value)
 {
     return value ? QString::fromStdString(*value) : QString();
+}
+
+[[nodiscard]] inline QColor toQColor(const platform::Colour& colour)
+{
+    return {colour.red, colour.green, colour.blue};
 }
 
 [[nodiscard]] inline QString toQString(std::string_view text)
