@@ -7,7 +7,7 @@
 
 namespace tocca::ui {
 
-/// Makes the contents of the program's windows, so that the controllers need no toolkit. Threads: main.
+/// Makes the contents of the program's windows, so that the controllers need no Qt. Threads: main.
 struct ViewFactory {
     using Make = std::function<std::unique_ptr<platform::View>()>;
 

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// What lies under the text of a field.
+/// The surface of a field, with its symbol and placeholder.
 Rectangle {
     id: root
 

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Shows around its parent that the keyboard acts there.
+/// A ring around its parent while the keyboard acts there.
 Rectangle {
     id: root
 

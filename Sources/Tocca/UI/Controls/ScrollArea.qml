@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// Shows a column that is higher than itself. It follows the wheel, the bar at its right edge, Page keys and the keyboard's focus.
+/// A view on a column that is higher than itself. It follows the wheel, the bar at its right edge, Page keys and the keyboard's focus.
 FocusScope {
     id: root
 

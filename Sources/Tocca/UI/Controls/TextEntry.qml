@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// One line of text. It shows `text` and asks for what is typed; `symbol` stands before it, and a filled one may be cleared.
+/// A field for one line of text. It shows `text` and asks for what is typed; `symbol` stands before it, and a filled one may be cleared.
 Item {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// Explains its target while the pointer rests on it; stays inside the window.
+/// A hint that explains its target while the pointer rests on it; it stays inside the window.
 Item {
     id: root
 

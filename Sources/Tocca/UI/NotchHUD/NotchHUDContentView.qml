@@ -2,6 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
+/// The HUD's capsule: the switch, a waveform and the typing speed, which springs open and shut.
 Item {
     id: root
 

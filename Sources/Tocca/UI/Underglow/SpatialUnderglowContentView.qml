@@ -2,6 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
+/// The glow along the screen's lower edge, and the bright line below it.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// Empties the field at whose right end it stands.
+/// The button at the right end of a field that empties it.
 Pressable {
     id: root
 

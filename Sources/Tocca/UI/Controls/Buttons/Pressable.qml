@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// What everything that can be pressed has in common: pointer, keys, focus, hint and what assistive programs are told.
+/// The base of all that can be pressed: pointer, keys, focus, hint and what assistive programs are told.
 Item {
     id: root
 

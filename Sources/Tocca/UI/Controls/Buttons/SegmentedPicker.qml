@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// Options side by side; shows the chosen one and asks for another. Long labels take two lines.
+/// A choice among options side by side, one of which it asks for. Long labels take two lines.
 Item {
     id: root
 
