@@ -9,7 +9,7 @@ namespace tocca::audio {
 /// A case of a fixed catalogue: a value of an enumeration that carries texts and constants. Threads: any.
 ///
 /// `Cases` has the enumeration `Value`, and `allCases` in its order. `Self` derives from this and has `rows`, in the same order, whose
-/// elements have at least a `rawValue` and a `description`.
+/// elements have at least a `rawValue`, and a `description` where one is asked for.
 template <class Self, class Cases>
 class CatalogueCase : public Cases {
 public:

@@ -1,40 +1,37 @@
 #pragma once
 
+#include "Audio/CatalogueCase.h"
 #include "Platform/Desktop/Geometry.h"
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 namespace tocca::ui {
 
-/// The colours of the glow. Threads: any.
-class UnderglowTheme {
-public:
+/// The cases of `UnderglowTheme`.
+struct UnderglowThemes {
     enum Value : std::uint8_t { studioAmber, cyberpunk, polarWhite, matrixGreen };
 
     static constexpr std::array<Value, 4> allCases{studioAmber, cyberpunk, polarWhite, matrixGreen};
+};
 
-    constexpr UnderglowTheme(Value value) noexcept // NOLINT(google-explicit-constructor)
-        : value_(value)
-    {}
+/// The colours of the glow. Threads: any.
+class UnderglowTheme : public audio::CatalogueCase<UnderglowTheme, UnderglowThemes> {
+public:
+    using CatalogueCase::CatalogueCase;
 
-    constexpr operator Value() const noexcept { return value_; } // NOLINT(google-explicit-constructor)
+    struct Row {
+        std::string_view rawValue;
+        platform::Colour primary;
+        platform::Colour secondary;
+    };
 
-    /// The case whose raw value is exactly `rawValue`, if any.
-    [[nodiscard]] static std::optional<UnderglowTheme> fromRawValue(std::string_view rawValue) noexcept;
+    static const std::array<Row, allCases.size()> rows;
 
-    /// The display name, which is also the identity.
-    [[nodiscard]] std::string_view rawValue() const noexcept;
+    [[nodiscard]] platform::Colour primaryColor() const noexcept { return row().primary; }
 
-    [[nodiscard]] std::string_view id() const noexcept { return rawValue(); }
-
-    [[nodiscard]] platform::Colour primaryColor() const noexcept;
-    [[nodiscard]] platform::Colour secondaryColor() const noexcept;
-
-private:
-    Value value_;
+    [[nodiscard]] platform::Colour secondaryColor() const noexcept { return row().secondary; }
 };
 
 } // namespace tocca::ui
