@@ -93,8 +93,8 @@ public:
     };
     Q_ENUM(QuickKey)
 
-    /// Lets a key be heard as if it were pressed.
-    Q_INVOKABLE void playKey(QuickKey key);
+    /// Lets a key be heard as if it were pressed; an integer, since Qt 6.4 compiles no QML that hands over an enumeration.
+    Q_INVOKABLE void playKey(int key);
     Q_INVOKABLE void openAccessibilitySettings();
     Q_INVOKABLE void checkPermission();
 
