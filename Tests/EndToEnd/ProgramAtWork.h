@@ -33,7 +33,7 @@ inline constexpr std::chrono::seconds kDeadline{20};
 /// Runs the session's own sound server commands, "stop-sound" and "start-sound".
 void soundServer(const char* command);
 
-/// The program at work in this session, hands on its keyboard and ears at its sink.
+/// The program at work in this session, with a synthetic keyboard and a recorder at its sink.
 class ProgramAtWork : public testing::Test {
 protected:
     /// Waits until the program listens and its first key has been heard. Keys go to the window of another program, since in the

@@ -10,7 +10,7 @@
 
 namespace tocca::instruments {
 
-/// A directory of a test's own, gone with the test.
+/// A temporary directory that is deleted with the object.
 class TemporaryDirectory {
 public:
     TemporaryDirectory()

@@ -26,7 +26,7 @@ struct Rhythm {
 [[nodiscard]] std::vector<Stroke> type(XTestKeyboard& keyboard, std::span<const std::uint16_t> keys,
                                        const Rhythm& rhythm, std::mt19937& random);
 
-/// Forty different keys that are neither modifiers nor lone in their sound.
+/// Forty different keys that all sound with the recordings of a standard key.
 [[nodiscard]] std::span<const std::uint16_t> ordinaryKeys();
 
 } // namespace tocca::instruments

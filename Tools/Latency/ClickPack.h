@@ -8,7 +8,7 @@ namespace tocca::latency {
 /// A sound pack whose one recording is a click: it begins with its first sample and ends before the next stroke, so that what
 /// was recorded tells its beginning to the frame.
 ///
-/// Lifetime: the folder goes with the object.
+/// Lifetime: the folder is deleted with the object.
 class ClickPack {
 public:
     /// Errors: throws `std::runtime_error` when the files cannot be written.

@@ -50,7 +50,7 @@ public:
     /// How many times an overlay has been painted. Threads: any.
     [[nodiscard]] std::uint64_t framesPainted() const noexcept { return framesPainted_; }
 
-    /// What the main thread has worked, which is the one that paints. Units: seconds. Threads: any.
+    /// How long the main thread, which paints, has computed. Units: seconds. Threads: any.
     [[nodiscard]] double mainThreadWork() const noexcept;
 
 private:

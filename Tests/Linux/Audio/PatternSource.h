@@ -56,7 +56,7 @@ public:
 
     [[nodiscard]] bool isRendering() const { return isRendering_; }
 
-    /// From now on takes longer for a cycle of less than `quantum` frames than 64 frames last.
+    /// Makes every cycle of less than `quantum` frames take longer than 64 frames last.
     void slowDownBelow(int quantum) { slowBelow_ = quantum; }
 
     /// The longest part of a recording, in frames, that is this source's sound without a missing or altered frame.

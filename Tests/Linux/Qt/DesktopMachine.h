@@ -38,7 +38,7 @@ bool runUntil(Predicate predicate)
     return true;
 }
 
-/// What a command prints, Qt working meanwhile.
+/// What a command prints; Qt's event loop runs meanwhile.
 inline std::string outputOf(const std::vector<std::string>& command)
 {
     instruments::Process process(command);
@@ -58,7 +58,7 @@ inline std::string property(unsigned long long id, const std::string& name)
                    : outputOf({"xprop", "-id", std::to_string(id), name});
 }
 
-/// A plain area in one colour that counts how often its window has drawn.
+/// A plain area in one colour.
 class Swatch : public QQuickPaintedItem {
 public:
     explicit Swatch(QQuickItem& parent)
@@ -70,7 +70,7 @@ public:
     void paint(QPainter* /*painter*/) override {}
 };
 
-/// Content whose making a test follows.
+/// Content that tells whether its item has been made.
 struct Content {
     QQuickItem* item = nullptr; ///< null until it was made
 

@@ -17,6 +17,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/Files/LinuxFileStore
         Platform/Linux/System/Files/LinuxFiles
         Platform/Linux/System/Files/LinuxUserDefaults
+        Platform/Linux/System/Threads/Doorbell
         Platform/Linux/System/Threads/LinuxMainQueue
         Platform/Linux/System/Threads/LinuxSerialQueues
         Platform/Linux/System/Threads/LinuxThreads
@@ -31,5 +32,4 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxHaptics.h
         Platform/Linux/System/SecureInput.h
-        Platform/Linux/System/Threads/Doorbell.h
     DEPENDS tocca_platform)

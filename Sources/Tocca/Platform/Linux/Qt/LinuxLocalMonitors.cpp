@@ -4,21 +4,16 @@
 
 namespace tocca::platform::linux {
 
-class LinuxLocalMonitors::Token final : public LocalMonitor {
-public:
-    explicit Token(std::shared_ptr<Entry> entry) noexcept
-        : entry_(std::move(entry))
-    {}
-
-private:
-    std::shared_ptr<Entry> entry_;
+struct LinuxLocalMonitors::Token final : LocalMonitor {
+    std::shared_ptr<Entry> entry;
 };
 
 std::unique_ptr<LocalMonitor> LinuxLocalMonitors::add(EventMask mask, EventHandler handler)
 {
-    auto entry = std::make_shared<Entry>(Entry{mask, std::move(handler)});
-    entries_.push_back(entry);
-    return std::make_unique<Token>(std::move(entry));
+    auto token = std::make_unique<Token>();
+    token->entry = std::make_shared<Entry>(Entry{mask, std::move(handler)});
+    entries_.push_back(token->entry);
+    return token;
 }
 
 void LinuxLocalMonitors::deliver(EventType type, const InputEvent& event)

@@ -25,7 +25,7 @@ private:
         EventHandler handler;
     };
 
-    class Token;
+    struct Token;
 
     std::vector<std::weak_ptr<Entry>> entries_; // each is its token's
 };

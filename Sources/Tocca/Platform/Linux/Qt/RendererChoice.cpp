@@ -1,11 +1,8 @@
 #include "Platform/Linux/Qt/RendererChoice.h"
 
+#include <QDir>
 #include <QOpenGLContext>
 #include <QQuickWindow>
-
-#include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 namespace tocca::platform::linux {
 
@@ -13,11 +10,8 @@ namespace {
 
 bool hasGraphicsHardware()
 {
-    std::error_code error;
-    const std::filesystem::directory_iterator devices("/dev/dri", error);
-    return !error && std::any_of(begin(devices), end(devices), [](const auto& device) {
-        return device.path().filename().native().starts_with("renderD");
-    });
+    const QDir devices(QStringLiteral("/dev/dri"), QStringLiteral("renderD*"), QDir::Name, QDir::System);
+    return !devices.isEmpty();
 }
 
 bool canUseOpenGl()

@@ -23,17 +23,6 @@ namespace {
 
 constexpr const char* kHiddenEntry = "[Desktop Entry]\nType=Application\nName=Tocca\nHidden=true\n";
 
-fs::path thisProgram()
-{
-    constexpr std::string_view kReplaced = " (deleted)";
-    std::error_code error;
-    std::string path = fs::read_symlink("/proc/self/exe", error).native();
-    if (path.ends_with(kReplaced)) {
-        path.resize(path.size() - kReplaced.size()); // an update has replaced the running program's file
-    }
-    return path;
-}
-
 fs::path entryPath(const fs::path& directory)
 {
     return directory / (std::string(kApplicationId) + ".desktop");

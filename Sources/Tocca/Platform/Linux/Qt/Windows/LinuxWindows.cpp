@@ -14,15 +14,35 @@ namespace tocca::platform::linux {
 namespace {
 
 /// A window that comes back at the place where it was hidden.
-class TitledWindow final : public ContentWindow {
+class LinuxWindow final : public Window, public ContentWindow {
 public:
-    explicit TitledWindow(OwnWindows& family)
+    LinuxWindow(OwnWindows& family, const WindowOptions& options, std::unique_ptr<View> content)
         : ContentWindow(family, Kind::ordinary)
-    {}
+    {
+        const auto pixels = [](const Size& size) { return QSizeF(size.width, size.height).toSize(); };
+        setTitle(QString::fromStdString(options.title));
+        setColor(QColor(options.background.red, options.background.green, options.background.blue));
+        setMinimumSize(pixels(options.minimumSize));
+        QSize initial = pixels(options.contentSize);
+        if (screen() != nullptr) {
+            initial = initial.boundedTo(screen()->availableSize());
+        }
+        resize(initial.expandedTo(minimumSize()));
+        setContent(std::move(content));
+    }
 
-    Window::ShouldClose shouldClose;
+    void setShouldClose(ShouldClose handler) override { shouldClose_ = std::move(handler); }
 
-    void showInFront()
+    void center() override
+    {
+        if (screen() != nullptr) {
+            QRect frame({}, size().grownBy(frameMargins()));
+            frame.moveCenter(screen()->availableGeometry().center());
+            setFramePosition(frame.topLeft());
+        }
+    }
+
+    void makeKeyAndOrderFront() override
     {
         if (!isVisible()) {
             XDesktop::adopt(*this);
@@ -35,7 +55,7 @@ public:
         bringToFront(*this);
     }
 
-    void hideInPlace()
+    void orderOut() override
     {
         if (isVisible()) {
             place_ = framePosition();
@@ -43,55 +63,18 @@ public:
         }
     }
 
+    [[nodiscard]] bool isVisible() const override { return ContentWindow::isVisible(); }
+
 private:
     void closeRequested() override
     {
-        if (!shouldClose || shouldClose()) {
-            hideInPlace();
+        if (!shouldClose_ || shouldClose_()) {
+            orderOut();
         }
     }
 
-    std::optional<QPoint> place_;
-};
-
-class LinuxWindow final : public Window {
-public:
-    LinuxWindow(OwnWindows& family, const WindowOptions& options, std::unique_ptr<View> content)
-        : window_(family)
-    {
-        const auto pixels = [](const Size& size) { return QSizeF(size.width, size.height).toSize(); };
-        window_.setTitle(QString::fromStdString(options.title));
-        window_.setColor(QColor(options.background.red, options.background.green, options.background.blue));
-        window_.setMinimumSize(pixels(options.minimumSize));
-        QSize size = pixels(options.contentSize);
-        if (const QScreen* const screen = window_.screen()) {
-            size = size.boundedTo(screen->availableSize());
-        }
-        window_.resize(size.expandedTo(window_.minimumSize()));
-        window_.setContent(std::move(content));
-    }
-
-    void setShouldClose(ShouldClose handler) override { window_.shouldClose = std::move(handler); }
-
-    void center() override
-    {
-        const QScreen* const screen = window_.screen();
-        if (screen == nullptr) {
-            return;
-        }
-        QRect frame({}, window_.size().grownBy(window_.frameMargins()));
-        frame.moveCenter(screen->availableGeometry().center());
-        window_.setFramePosition(frame.topLeft());
-    }
-
-    void makeKeyAndOrderFront() override { window_.showInFront(); }
-
-    void orderOut() override { window_.hideInPlace(); }
-
-    [[nodiscard]] bool isVisible() const override { return window_.isVisible(); }
-
-private:
-    TitledWindow window_;
+    ShouldClose shouldClose_;
+    std::optional<QPoint> place_; // where it was hidden
 };
 
 } // namespace

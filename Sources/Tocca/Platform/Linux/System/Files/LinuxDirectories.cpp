@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -15,12 +16,6 @@
 namespace tocca::platform::linux {
 
 namespace {
-
-std::filesystem::path directoryOfThisProgram()
-{
-    std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-}
 
 std::optional<std::filesystem::path> absolutePathIn(const char* variable)
 {
@@ -81,7 +76,7 @@ std::vector<std::filesystem::path> searched(const std::optional<std::filesystem:
 } // namespace
 
 LinuxDirectories::LinuxDirectories()
-    : LinuxDirectories(directoryOfThisProgram())
+    : LinuxDirectories(thisProgram().parent_path())
 {}
 
 LinuxDirectories::LinuxDirectories(std::filesystem::path programDirectory)
@@ -109,6 +104,17 @@ std::filesystem::path LinuxDirectories::currentWorkingDirectory() const
 std::optional<std::filesystem::path> LinuxDirectories::applicationSupport() const
 {
     return userDirectory("XDG_DATA_HOME", ".local/share");
+}
+
+std::filesystem::path thisProgram()
+{
+    constexpr std::string_view kReplaced = " (deleted)";
+    std::error_code error;
+    std::string path = std::filesystem::read_symlink("/proc/self/exe", error).native();
+    if (path.ends_with(kReplaced)) {
+        path.resize(path.size() - kReplaced.size()); // an update has replaced the running program's file
+    }
+    return path;
 }
 
 std::optional<std::filesystem::path> stateDirectory()

@@ -26,6 +26,9 @@ private:
     std::filesystem::path programDirectory_;
 };
 
+/// The file that this process was started from; empty when the system does not tell. Threads: any.
+[[nodiscard]] std::filesystem::path thisProgram();
+
 /// Where the user's programs keep their state; nothing when the system names no home directory. Threads: any.
 [[nodiscard]] std::optional<std::filesystem::path> stateDirectory();
 

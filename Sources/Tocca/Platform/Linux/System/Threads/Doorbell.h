@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/Realtime.h"
+
 #include <atomic>
 #include <cstdint>
 
@@ -11,12 +13,7 @@ namespace tocca::platform::linux {
 /// Real-time: `ring` never allocates, locks or waits.
 class Doorbell {
 public:
-    void ring() noexcept
-    {
-        if (state_.exchange(kAwake, std::memory_order_acq_rel) == kAsleep) {
-            state_.notify_one();
-        }
-    }
+    void ring() noexcept;
 
     /// Sleeps until the next ring, unless `hasWork` says that there is something to do already.
     template <class HasWork>
@@ -25,7 +22,7 @@ public:
         // Because both sides exchange, no work is overlooked: either this thread sees it, or the ringing thread sees this one asleep.
         state_.exchange(kAsleep, std::memory_order_acq_rel);
         if (!hasWork()) {
-            state_.wait(kAsleep, std::memory_order_acquire);
+            waitWhileAsleep();
         }
         state_.exchange(kAwake, std::memory_order_acq_rel);
     }
@@ -34,7 +31,9 @@ private:
     static constexpr std::uint32_t kAwake = 0;
     static constexpr std::uint32_t kAsleep = 1;
 
-    std::atomic<std::uint32_t> state_{kAwake}; // both; of the size on which the kernel waits
+    void waitWhileAsleep() noexcept;
+
+    std::atomic<std::uint32_t> state_{kAwake}; // both
 };
 
 static_assert(std::atomic<std::uint32_t>::is_always_lock_free);
