@@ -139,7 +139,7 @@ protected:
         this->machine_.start("suspect", command);
         // Until it runs there is nothing to be seen of it.
         ASSERT_TRUE(this->machine_.eventually([] {
-            instruments::Process list({"sh", "-c", "pactl list short sources | grep RUNNING"});
+            instruments::Process list({"sh", "-c", "pactl list source-outputs | grep 'Corked: no'"});
             return list.waitForExit(kDeadline) == 0;
         }));
         this->machine_.plugIn(

@@ -116,7 +116,7 @@ TEST_F(SoundServerChoice, PlaysThroughPulseAudioWhilePipeWireHasNoSink)
     EXPECT_TRUE(isHeard());
 
     runInSession("pw-cli create-node adapter '{ factory.name=support.null-audio-sink node.name=late "
-                 "media.class=Audio/Sink object.linger=true audio.position=FL,FR }' >/dev/null");
+                 "media.class=Audio/Sink object.linger=true audio.position=[ FL FR ] }' >/dev/null");
     EXPECT_TRUE(plays(SoundServer::PipeWire));
     EXPECT_EQ(lines.lines, 0);
 }
