@@ -114,9 +114,9 @@ void MenuBarViewModel::terminate()
     terminate_();
 }
 
-void MenuBarViewModel::playKey(QuickKey key)
+void MenuBarViewModel::playKey(int key)
 {
-    controllers_.audioEngine.playKey(key, audio::KeyStrokeAction::down);
+    controllers_.audioEngine.playKey(static_cast<std::uint16_t>(key), audio::KeyStrokeAction::down);
 }
 
 void MenuBarViewModel::openAccessibilitySettings()

@@ -116,8 +116,8 @@ public:
     };
     Q_ENUM(QuickKey)
 
-    /// Lets a key be heard as if it were pressed.
-    Q_INVOKABLE void playKey(QuickKey key);
+    /// Lets a `QuickKey` be heard as if it were pressed. Its type is one that ahead-of-time compiled QML can pass.
+    Q_INVOKABLE void playKey(int key);
     Q_INVOKABLE void openAccessibilitySettings();
     Q_INVOKABLE void checkPermission();
 
