@@ -36,7 +36,7 @@ TEST_F(CaptureTest, WaitsForThePermissionAndSaysSoOnce)
     host.advance(10);
     EXPECT_FALSE(monitor->hasAccessibilityPermission.get());
     EXPECT_THAT(host.standardOutput().lines, testing::ElementsAre(kNotPermitted));
-    EXPECT_EQ(host.localMonitors().installedCount(), 0);
+    EXPECT_EQ(host.localMonitors().installedCount(), 0U);
 
     host.trustQuery().isGranted = true;
     host.advance(1.5);

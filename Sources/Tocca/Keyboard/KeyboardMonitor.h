@@ -6,6 +6,7 @@
 #include "Platform/EventTap.h"
 #include "Support/Lifetime.h"
 #include "Support/Published.h"
+#include "Support/Subscription.h"
 
 #include <atomic>
 #include <bitset>
@@ -19,7 +20,6 @@ class AudioEngine;
 }
 
 namespace tocca::platform {
-class LocalMonitor;
 class Thread;
 class Timer;
 struct Host;
@@ -82,7 +82,7 @@ private:
     std::unique_ptr<platform::EventTap> ownedTap_;           // capture; main once the thread has stopped
     std::unique_ptr<platform::RunLoopSource> runLoopSource_; // as ownedTap_
     std::unique_ptr<platform::Thread> tapThread_;
-    std::unique_ptr<platform::LocalMonitor> localMonitor_;
+    Subscription localMonitor_;
     std::uint64_t lastModifierFlags_ = 0; // delivering thread
     bool isMonitoring_ = false;
     std::unique_ptr<platform::Timer> permissionPollingTimer_;

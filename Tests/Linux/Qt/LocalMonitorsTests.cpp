@@ -38,9 +38,9 @@ TEST(LinuxLocalMonitors, MayBeAddedAndRemovedWhileAnEventIsDelivered)
     auto monitors = std::make_unique<LinuxLocalMonitors>();
     std::string heard;
     const EventMask mask = maskOf(EventType::KeyDown);
-    std::unique_ptr<LocalMonitor> first;
-    std::unique_ptr<LocalMonitor> second;
-    std::unique_ptr<LocalMonitor> late;
+    Subscription first;
+    Subscription second;
+    Subscription late;
     first = monitors->add(mask, [&](EventType, const InputEvent&) {
         heard += '1';
         late = monitors->add(mask, [&](EventType, const InputEvent&) { heard += '3'; });

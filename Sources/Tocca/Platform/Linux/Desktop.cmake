@@ -46,7 +46,6 @@ app_module(tocca_linux_desktop
         Platform/Linux/Qt/ApplicationIcon
         Platform/Linux/Qt/DisplayChoice
         Platform/Linux/Qt/LinuxApplication
-        Platform/Linux/Qt/LinuxLocalMonitors
         Platform/Linux/Qt/LinuxScreens
         Platform/Linux/Qt/LocalKeys
         Platform/Linux/Qt/QtLoop
@@ -77,6 +76,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Tray/StatusNotifierTypes
         Platform/Linux/Tray/StatusNotifierWatch
     HEADERS
+        Platform/Linux/Qt/LinuxLocalMonitors.h
         Platform/Linux/Freedesktop/DBusReply.h
         Platform/Linux/Qt/Windows/QuickView.h
         Platform/Linux/Tray/MenuNode.h

@@ -38,7 +38,7 @@ public:
 
 private:
     std::optional<Screen> main_{Screen{{0, 0, 1920, 1080}, 0}};
-    Listeners listeners_;
+    Listeners<> listeners_;
 };
 
 /// What a test sees of a panel, also after the panel is gone.
@@ -163,7 +163,7 @@ private:
     std::vector<Menu> menus_;
     MenuTarget* target_ = nullptr;
     bool isShownByDesktop_ = false;
-    Listeners listeners_;
+    Listeners<> listeners_;
 };
 
 /// A dialog that a test answers.

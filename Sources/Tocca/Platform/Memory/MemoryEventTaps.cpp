@@ -100,36 +100,4 @@ int MemoryEventTaps::listeningCount() const noexcept
     }));
 }
 
-class MemoryLocalMonitors::Monitor : public LocalMonitor {
-public:
-    explicit Monitor(std::shared_ptr<State> state)
-        : state_(std::move(state))
-    {}
-
-private:
-    std::shared_ptr<State> state_;
-};
-
-std::unique_ptr<LocalMonitor> MemoryLocalMonitors::add(EventMask mask, EventHandler handler)
-{
-    auto state = std::make_shared<State>(State{mask, std::move(handler)});
-    states_.push_back(state);
-    return std::make_unique<Monitor>(std::move(state));
-}
-
-void MemoryLocalMonitors::send(EventType type, const InputEvent& event)
-{
-    for (const auto& weak : std::vector(states_)) {
-        if (const auto state = weak.lock(); state && (state->mask & maskOf(type)) != 0) {
-            state->handler(type, event);
-        }
-    }
-}
-
-int MemoryLocalMonitors::installedCount() const noexcept
-{
-    return static_cast<int>(
-        std::count_if(states_.begin(), states_.end(), [](const auto& state) { return !state.expired(); }));
-}
-
 } // namespace tocca::platform::memory

@@ -4,8 +4,10 @@
 #include "Platform/LocalMonitor.h"
 #include "Platform/Memory/MemoryThreads.h"
 #include "Platform/Memory/VirtualTime.h"
+#include "Support/Listeners.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace tocca::platform::memory {
@@ -65,21 +67,22 @@ private:
 /// Keys typed into the program's own windows.
 class MemoryLocalMonitors : public LocalMonitors {
 public:
-    [[nodiscard]] std::unique_ptr<LocalMonitor> add(EventMask mask, EventHandler handler) override;
+    [[nodiscard]] Subscription add(EventMask mask, EventHandler handler) override
+    {
+        return listeners_.add([mask, handler = std::move(handler)](EventType type, const InputEvent& event) {
+            if ((mask & maskOf(type)) != 0) {
+                handler(type, event);
+            }
+        });
+    }
 
     /// Shows an event to every installed monitor whose mask has its type.
-    void send(EventType type, const InputEvent& event);
+    void send(EventType type, const InputEvent& event) { listeners_.call(type, event); }
 
-    [[nodiscard]] int installedCount() const noexcept;
+    [[nodiscard]] std::size_t installedCount() const noexcept { return listeners_.count(); }
 
 private:
-    struct State {
-        EventMask mask = 0;
-        EventHandler handler;
-    };
-    class Monitor;
-
-    std::vector<std::weak_ptr<State>> states_;
+    Listeners<EventType, const InputEvent&> listeners_;
 };
 
 } // namespace tocca::platform::memory

@@ -34,22 +34,10 @@ Outcome MemoryLoginItem::change(LoginItemStatus status)
     return std::monostate();
 }
 
-Subscription MemoryWorkspace::onActivation(ActivationHandler handler)
-{
-    auto shared = std::make_shared<ActivationHandler>(std::move(handler));
-    handlers_.push_back(shared);
-    return Subscription([shared]() mutable { shared.reset(); });
-}
-
 void MemoryWorkspace::activate(const std::optional<RunningApplication>& application)
 {
     frontmost_ = application;
-    std::erase_if(handlers_, [](const auto& handler) { return handler.expired(); });
-    for (const auto& weak : std::vector(handlers_)) {
-        if (const auto handler = weak.lock()) {
-            (*handler)(application);
-        }
-    }
+    activations_.call(application);
 }
 
 std::uint64_t MemoryRandom::next()

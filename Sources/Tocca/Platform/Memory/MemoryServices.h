@@ -7,11 +7,12 @@
 #include "Platform/Random.h"
 #include "Platform/StandardOutput.h"
 #include "Platform/TrustQuery.h"
+#include "Support/Listeners.h"
 
 #include <deque>
-#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tocca::platform::memory {
@@ -90,7 +91,10 @@ public:
         return frontmost_;
     }
 
-    [[nodiscard]] Subscription onActivation(ActivationHandler handler) override;
+    [[nodiscard]] Subscription onActivation(ActivationHandler handler) override
+    {
+        return activations_.add(std::move(handler));
+    }
 
     /// Brings `application` to the front, or leaves nothing there that the desktop could name.
     void activate(const std::optional<RunningApplication>& application);
@@ -99,7 +103,7 @@ public:
 
 private:
     std::optional<RunningApplication> frontmost_;
-    std::vector<std::weak_ptr<ActivationHandler>> handlers_;
+    Listeners<const std::optional<RunningApplication>&> activations_;
 };
 
 /// Random bits that are the same on every run, or exactly those a test asks for.

@@ -44,7 +44,7 @@ private:
     Timers& timers_;
     DesktopEntries entries_;
     std::optional<RunningApplication> frontmost_;
-    Listeners activations_;
+    Listeners<> activations_;
     std::unique_ptr<DesktopWatch> watch_;
     std::unique_ptr<QSocketNotifier> notifier_;
     std::unique_ptr<Timer> retry_;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Platform/LocalMonitor.h"
+#include "Support/Listeners.h"
 
-#include <memory>
-#include <vector>
+#include <utility>
 
 namespace tocca::platform::linux {
 
@@ -14,20 +14,20 @@ namespace tocca::platform::linux {
 /// Lifetime: a monitor may outlive this object.
 class LinuxLocalMonitors : public LocalMonitors {
 public:
-    [[nodiscard]] std::unique_ptr<LocalMonitor> add(EventMask mask, EventHandler handler) override;
+    [[nodiscard]] Subscription add(EventMask mask, EventHandler handler) override
+    {
+        return listeners_.add([mask, handler = std::move(handler)](EventType type, const InputEvent& event) {
+            if ((mask & maskOf(type)) != 0) {
+                handler(type, event);
+            }
+        });
+    }
 
     /// Shows the monitors an event that reached one of the windows.
-    void deliver(EventType type, const InputEvent& event);
+    void deliver(EventType type, const InputEvent& event) { listeners_.call(type, event); }
 
 private:
-    struct Entry {
-        EventMask mask;
-        EventHandler handler;
-    };
-
-    struct Token;
-
-    std::vector<std::weak_ptr<Entry>> entries_; // each is its token's
+    Listeners<EventType, const InputEvent&> listeners_;
 };
 
 } // namespace tocca::platform::linux

@@ -24,7 +24,7 @@ private:
     void follow();
     void followMain();
 
-    Listeners listeners_;
+    Listeners<> listeners_;
     std::unique_ptr<QObject> observer_;     // of the application
     std::unique_ptr<QObject> mainObserver_; // of the display that is the main one now
 };

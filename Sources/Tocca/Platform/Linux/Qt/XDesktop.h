@@ -43,7 +43,7 @@ private:
     bool isWatched_ = false;
     std::unique_ptr<SelectionWatch> selections_;
     std::unique_ptr<QSocketNotifier> notifier_;
-    Listeners listeners_;
+    Listeners<> listeners_;
 };
 
 } // namespace tocca::platform::linux

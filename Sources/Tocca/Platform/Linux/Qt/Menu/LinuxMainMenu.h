@@ -40,7 +40,7 @@ private:
     StandardActions actions_;
     std::vector<Menu> menus_;
     MenuTarget* target_ = nullptr;
-    Listeners desktopListeners_;
+    Listeners<> desktopListeners_;
     std::unique_ptr<MenuExport> export_;
 };
 
