@@ -9,8 +9,8 @@ namespace tocca {
 std::string searchForm(std::string_view text)
 {
     UErrorCode error = U_ZERO_ERROR; // stays so: the library brings its tables with it
-    const auto caseless =
-        icu::Normalizer2::getNFKCCasefoldInstance(error)->normalize(icu::UnicodeString::fromUTF8(text), error);
+    const auto caseless = icu::Normalizer2::getNFKCCasefoldInstance(error)->normalize(
+        icu::UnicodeString::fromUTF8(text), error);
     const auto decomposed = icu::Normalizer2::getNFDInstance(error)->normalize(caseless, error);
     icu::UnicodeString bare;
     for (std::int32_t i = 0; i < decomposed.length(); i = decomposed.moveIndex32(i, 1)) {
