@@ -19,7 +19,7 @@ using linux::QtMachine;
 
 } // namespace
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Toolkit, MainQueueAndTimersConformance, QtMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, MainQueueAndTimersConformance, QtMachine);
 
 namespace linux {
 

@@ -28,7 +28,7 @@ public:
 
     void bringToFront();
 
-    /// Keeps the dialog inside its window: from 6.8 the toolkit would open another one for it.
+    /// Keeps the dialog inside its window: from 6.8 on Qt would open another one for it.
     bool eventFilter(QObject* window, QEvent* event) override;
 
 private:
