@@ -30,9 +30,9 @@ Pressable {
     ButtonGround {
         hovered: root.hovered
         on: root.accented
-        onStrength: 1
         pressed: root.pressed
         radius: root.radius
+        strength: 1
     }
 
     Symbol {
