@@ -1,6 +1,6 @@
+#include "Instruments/EncodedSound.h"
 #include "Player/Decoding/Decoder.h"
 #include "Player/Decoding/Resampler.h"
-#include "Player/EncodedSound.h"
 #include "Player/MixerAudioPlayers.h"
 #include "Support/ThreadRole.h"
 
@@ -29,13 +29,13 @@ public:
 };
 
 /// A recording of 0.3 s, as packs hold them.
-SharedBytes recording(testkit::Encoding encoding, int sampleRate)
+SharedBytes recording(instruments::Encoding encoding, int sampleRate)
 {
     const auto frames = static_cast<std::size_t>(sampleRate) * 3 / 10;
-    return testkit::shared(testkit::encoded(encoding, testkit::click(frames), 1, sampleRate));
+    return instruments::shared(instruments::encoded(encoding, instruments::click(frames), 1, sampleRate));
 }
 
-void decodeAndConvert(benchmark::State& state, testkit::Encoding encoding, int sampleRate)
+void decodeAndConvert(benchmark::State& state, instruments::Encoding encoding, int sampleRate)
 {
     const auto bytes = recording(encoding, sampleRate);
     for (auto _ : state) {
@@ -44,10 +44,10 @@ void decodeAndConvert(benchmark::State& state, testkit::Encoding encoding, int s
     }
 }
 
-BENCHMARK_CAPTURE(decodeAndConvert, wav48k, testkit::Encoding::Wav16, 48000);
-BENCHMARK_CAPTURE(decodeAndConvert, wav44k, testkit::Encoding::Wav16, 44100);
-BENCHMARK_CAPTURE(decodeAndConvert, ogg44k, testkit::Encoding::OggVorbis, 44100);
-BENCHMARK_CAPTURE(decodeAndConvert, mp344k, testkit::Encoding::Mp3, 44100);
+BENCHMARK_CAPTURE(decodeAndConvert, wav48k, instruments::Encoding::Wav16, 48000);
+BENCHMARK_CAPTURE(decodeAndConvert, wav44k, instruments::Encoding::Wav16, 44100);
+BENCHMARK_CAPTURE(decodeAndConvert, ogg44k, instruments::Encoding::OggVorbis, 44100);
+BENCHMARK_CAPTURE(decodeAndConvert, mp344k, instruments::Encoding::Mp3, 44100);
 
 /// Starting and replacing a player, with the render thread's part of the hand-over.
 void playStroke(benchmark::State& state)
@@ -56,7 +56,7 @@ void playStroke(benchmark::State& state)
     SilentOutput output;
     const auto mixer = std::make_unique<Mixer>(clock);
     MixerAudioPlayers players(output, *mixer);
-    const auto bytes = recording(testkit::Encoding::Wav16, 48000);
+    const auto bytes = recording(instruments::Encoding::Wav16, 48000);
     std::array<std::unique_ptr<platform::AudioPlayer>, platform::kMaxVoices> pool;
     std::array<float, 128> block{};
     std::size_t next = 0;

@@ -62,7 +62,7 @@ TEST_F(Application, KeysTypedIntoTheTestFieldAreHeardOnceEach)
     listen();
     // The field is near the end of a long column: the keyboard reaches it from either side.
     ASSERT_TRUE(becomesTrue([this] {
-        if (reader.find("TEST TYPING PAD", "text", 0s).value_or(Control{}).isFocused) {
+        if (reader.find("TEST TYPING PAD", "text", 0s).value_or(instruments::Control{}).isFocused) {
             return true;
         }
         chord({KEY_LEFTSHIFT, KEY_TAB});
@@ -110,8 +110,9 @@ TEST_F(Application, AFolderDroppedOntoThePopoverIsImported)
     EXPECT_TRUE(becomesTrue([&] { return std::filesystem::is_directory(imported); })) << program.output();
     EXPECT_TRUE(becomesTrue([this] {
         const auto controls = reader.controls(); // the line may lie below what is scrolled into sight
-        return std::any_of(controls.begin(), controls.end(),
-                           [](const Control& control) { return control.name == "Imported 'Walnut Board'!"; });
+        return std::any_of(controls.begin(), controls.end(), [](const instruments::Control& control) {
+            return control.name == "Imported 'Walnut Board'!";
+        });
     }));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "EndToEnd/ProgramAtWork.h"
-#include "EndToEnd/ScreenReader.h"
+#include "Instruments/ScreenReader.h"
 #include "Instruments/XScreen.h"
 
 #include <optional>
@@ -34,7 +34,7 @@ protected:
     /// Keeps a picture of the screen among those that people look at.
     void keepPicture(const std::string& name) const;
 
-    ScreenReader reader;
+    instruments::ScreenReader reader;
     instruments::Process program{startProgram({{"QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"}})};
     instruments::XScreen screen;
     instruments::XTestKeyboard hands;

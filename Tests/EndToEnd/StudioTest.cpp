@@ -62,10 +62,11 @@ protected:
     bool isActive(const std::string& title)
     {
         const auto controls = reader.controls();
-        const auto card = std::find_if(controls.begin(), controls.end(), [&](const Control& control) {
-            return control.name == title && control.isShowing && control.height > 60;
-        });
-        const auto isBadge = [](const Control& control) {
+        const auto card =
+            std::find_if(controls.begin(), controls.end(), [&](const instruments::Control& control) {
+                return control.name == title && control.isShowing && control.height > 60;
+            });
+        const auto isBadge = [](const instruments::Control& control) {
             return control.name == "ACTIVE" && control.isShowing;
         };
         const auto badge = std::find_if(controls.begin(), controls.end(), isBadge);

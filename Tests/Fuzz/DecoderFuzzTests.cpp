@@ -1,6 +1,6 @@
+#include "Instruments/EncodedSound.h"
 #include "Player/Decoding/Decoder.h"
 #include "Player/Decoding/Resampler.h"
-#include "Player/EncodedSound.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 namespace tocca::player {
 namespace {
 
-using testkit::Bytes;
+using instruments::Bytes;
 
 /// Numbers that headers and parsers are most easily confused by.
 constexpr std::array<std::uint32_t, 8> kTelling{0, 1, 0x7F, 0xFF, 0x7FFF, 0xFFFF, 0x7FFFFFFF, 0xFFFFFFFF};
@@ -115,14 +115,14 @@ void expectPlayable(const Result<PcmClip>& clip, float highest)
     }
 }
 
-class DecoderFuzz : public testing::TestWithParam<testkit::Encoding> {};
+class DecoderFuzz : public testing::TestWithParam<instruments::Encoding> {};
 
 TEST_P(DecoderFuzz, SurvivesThousandsOfDamagedFiles)
 {
     constexpr unsigned kMutations = 2500;
-    const std::array corpus{testkit::encoded(GetParam(), testkit::click(1000), 1, 44100),
-                            testkit::encoded(GetParam(), testkit::click(40000), 2, 48000),
-                            testkit::encoded(GetParam(), testkit::sine(440, 22050, 20000), 1, 22050)};
+    const std::array corpus{instruments::encoded(GetParam(), instruments::click(1000), 1, 44100),
+                            instruments::encoded(GetParam(), instruments::click(40000), 2, 48000),
+                            instruments::encoded(GetParam(), instruments::sine(440, 22050, 20000), 1, 22050)};
     int decoded = 0;
     for (unsigned seed = 0; seed < kMutations; ++seed) {
         SCOPED_TRACE(seed);
@@ -131,7 +131,7 @@ TEST_P(DecoderFuzz, SurvivesThousandsOfDamagedFiles)
         for (unsigned i = 0; i <= random() % 3; ++i) {
             mutate(file, random);
         }
-        if (GetParam() == testkit::Encoding::OggVorbis && seed % 8 != 0) {
+        if (GetParam() == instruments::Encoding::OggVorbis && seed % 8 != 0) {
             repairOggPages(file);
         }
         auto clip = decode(file);
@@ -146,8 +146,8 @@ TEST_P(DecoderFuzz, SurvivesThousandsOfDamagedFiles)
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, DecoderFuzz,
-                         testing::Values(testkit::Encoding::Wav16, testkit::Encoding::OggVorbis,
-                                         testkit::Encoding::Mp3));
+                         testing::Values(instruments::Encoding::Wav16, instruments::Encoding::OggVorbis,
+                                         instruments::Encoding::Mp3));
 
 } // namespace
 } // namespace tocca::player

@@ -1,6 +1,6 @@
+#include "Instruments/EncodedSound.h"
 #include "Player/Decoding/Decoder.h"
 #include "Player/Decoding/Downmix.h"
-#include "Player/EncodedSound.h"
 
 #include <gtest/gtest.h>
 
@@ -13,11 +13,11 @@
 namespace tocca::player {
 namespace {
 
-using testkit::Bytes;
-using testkit::encoded;
-using testkit::Encoding;
-using testkit::floatWav;
-using testkit::wavFile;
+using instruments::Bytes;
+using instruments::encoded;
+using instruments::Encoding;
+using instruments::floatWav;
+using instruments::wavFile;
 
 float peakOf(std::span<const float> samples)
 {
@@ -49,7 +49,7 @@ TEST(Decoder, ReadsEveryFormatThatPacksAreMadeOf)
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);
         std::vector<float> samples;
-        for (const float sample : testkit::sine(500, row.sampleRate, 9000)) {
+        for (const float sample : instruments::sine(500, row.sampleRate, 9000)) {
             samples.push_back(sample);
             if (row.channels == 2) {
                 samples.push_back(-0.5F * sample);
@@ -70,9 +70,9 @@ TEST(Decoder, ReadsEveryFormatThatPacksAreMadeOf)
 TEST(Decoder, RefusesWhatItCannotPlayWithASentence)
 {
     const Bytes silence(400, std::byte{0});
-    const Bytes wav = floatWav(testkit::click(1000));
-    const Bytes ogg = encoded(Encoding::OggVorbis, testkit::click(4000));
-    const Bytes mp3 = encoded(Encoding::Mp3, testkit::click(4000));
+    const Bytes wav = floatWav(instruments::click(1000));
+    const Bytes ogg = encoded(Encoding::OggVorbis, instruments::click(4000));
+    const Bytes mp3 = encoded(Encoding::Mp3, instruments::click(4000));
     const auto first = [](const Bytes& file, std::size_t count) {
         return Bytes(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(count));
     };
@@ -89,8 +89,8 @@ TEST(Decoder, RefusesWhatItCannotPlayWithASentence)
         Row{"empty", {}, "The file is empty."},
         Row{"one byte", Bytes(1), "neither WAV, MP3 nor Ogg Vorbis"},
         Row{"text", Bytes(5000, std::byte{'x'}), "neither WAV, MP3 nor Ogg Vorbis"},
-        Row{"another format", encoded(Encoding::Aiff, testkit::click(1000)), "neither"},
-        Row{"another codec", encoded(Encoding::Flac, testkit::click(1000)), "neither"},
+        Row{"another format", encoded(Encoding::Aiff, instruments::click(1000)), "neither"},
+        Row{"another codec", encoded(Encoding::Flac, instruments::click(1000)), "neither"},
         Row{"too large", Bytes((std::size_t{32} << 20U) + 1), "larger than 32 MB"},
         Row{"no header behind the name", first(wav, 12), "damaged"},
         Row{"half a header", first(wav, 30), "damaged"},
@@ -120,13 +120,13 @@ TEST(Decoder, RefusesWhatItCannotPlayWithASentence)
 
 TEST(Decoder, KeepsWhatComesBeforeTheDamage)
 {
-    auto wav = floatWav(testkit::click(1000));
+    auto wav = floatWav(instruments::click(1000));
     wav.resize(44 + 4 * 600 + 3);
     const auto cut = decode(wav);
     ASSERT_TRUE(cut);
     EXPECT_EQ(cut.value().frameCount(), 600U);
 
-    auto ogg = encoded(Encoding::OggVorbis, testkit::sine(440, 44100, 400000)); // several pages
+    auto ogg = encoded(Encoding::OggVorbis, instruments::sine(440, 44100, 400000)); // several pages
     ogg.resize(ogg.size() * 3 / 4);
     const auto shorter = decode(ogg);
     ASSERT_TRUE(shorter) << shorter.error().describe();
@@ -135,7 +135,7 @@ TEST(Decoder, KeepsWhatComesBeforeTheDamage)
 
 TEST(Decoder, CutsRecordingsAtTheLimitsWhateverTheyClaim)
 {
-    const auto wav = floatWav(testkit::click(10000));
+    const auto wav = floatWav(instruments::click(10000));
     EXPECT_EQ(decode(wav, {.seconds = 0.1}).value().frameCount(), 4800U);
     EXPECT_EQ(decode(wav, {.frames = 77}).value().frameCount(), 77U);
 
@@ -193,7 +193,7 @@ TEST(Decoder, MixesMoreThanTwoChannelsToTheirSides)
 TEST(Decoder, TrimsTheSilenceThatAnMp3EncoderPutsInFrontAndNoOther)
 {
     std::vector<float> late(4000, 0.0F);
-    const auto stroke = testkit::click(8000);
+    const auto stroke = instruments::click(8000);
     late.insert(late.end(), stroke.begin(), stroke.end());
 
     const auto onset = [](const PcmClip& clip) {

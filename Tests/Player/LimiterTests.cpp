@@ -1,6 +1,6 @@
+#include "Instruments/EncodedSound.h"
 #include "Player/Decoding/PcmClip.h"
 #include "Player/Decoding/Resampler.h"
-#include "Player/EncodedSound.h"
 #include "Player/Mixing/Limiter.h"
 
 #include <gtest/gtest.h>
@@ -70,7 +70,7 @@ std::vector<float> noise(std::size_t frames, float level)
 /// on a limiter than any recording.
 std::vector<float> strokes(float level, float smoothing)
 {
-    auto stroke = testkit::click(3000, level);
+    auto stroke = instruments::click(3000, level);
     float once = 0.0F;
     float twice = 0.0F;
     for (float& sample : stroke) {
@@ -91,9 +91,9 @@ const std::vector<std::vector<std::size_t>> kBlockings{{64}, {1}, {17, 64, 3}, {
 
 TEST(Limiter, PassesWhatStaysADecibelBelowFullScaleBitForBit)
 {
-    const std::array inputs{noise(5000, 0.45F), testkit::click(5000, 0.4F),
-                            testkit::sine(50, kRate, 5000, 0.89), testkit::sine(997, kRate, 5000, 0.89),
-                            testkit::sine(3001, kRate, 5000, 0.89)};
+    const std::array inputs{
+        noise(5000, 0.45F), instruments::click(5000, 0.4F), instruments::sine(50, kRate, 5000, 0.89),
+        instruments::sine(997, kRate, 5000, 0.89), instruments::sine(3001, kRate, 5000, 0.89)};
     for (std::size_t i = 0; i < inputs.size(); ++i) {
         for (const auto& blocks : kBlockings) {
             EXPECT_EQ(limited(inputs[i], blocks), inputs[i])
@@ -107,7 +107,7 @@ TEST(Limiter, NeverLetsASampleOverTheCeiling)
     for (const float level : {1.0F, 40.0F}) {
         for (const auto& blocks : kBlockings) {
             for (const auto& input :
-                 {noise(5000, level), strokes(level, 0.45F), testkit::sine(60, kRate, 5000, level)}) {
+                 {noise(5000, level), strokes(level, 0.45F), instruments::sine(60, kRate, 5000, level)}) {
                 EXPECT_LE(peakOf(limited(input, blocks)), Limiter::kCeiling);
             }
         }
@@ -162,7 +162,7 @@ TEST(Limiter, BendsALoudWaveWithoutASingleStep)
 {
     for (const double frequency : {50.0, 200.0, 1000.0}) {
         for (const auto& blocks : kBlockings) {
-            auto input = testkit::sine(frequency, kRate, 9000, 0.9);
+            auto input = instruments::sine(frequency, kRate, 9000, 0.9);
             for (std::size_t i = 3000; i < 4000; ++i) {
                 input[i] *= 1.0F + 3.0F * static_cast<float>(i - 3000) / 1000.0F;
             }
@@ -186,7 +186,7 @@ TEST(Limiter, BendsALoudWaveWithoutASingleStep)
 
 TEST(Limiter, RecoversWithinTwoTenthsOfASecondAndIsThenTransparentAgain)
 {
-    auto input = testkit::sine(1000, kRate, 48000, 0.5);
+    auto input = instruments::sine(1000, kRate, 48000, 0.5);
     for (std::size_t i = 0; i < 4800; ++i) {
         input[i] *= 10.0F;
     }

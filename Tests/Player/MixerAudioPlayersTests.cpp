@@ -1,4 +1,4 @@
-#include "Player/EncodedSound.h"
+#include "Instruments/EncodedSound.h"
 #include "Player/MixerAudioPlayers.h"
 #include "Player/MixerStage.h"
 
@@ -25,7 +25,7 @@ struct PlayersTest : testing::Test {
     FakeOutput output;
     MixerAudioPlayers players{output, *stage.mixer};
     ThreadRoleScope role{ThreadRole::AudioQueue};
-    SharedBytes steady = testkit::shared(testkit::floatWav(std::vector<float>(4800, 0.5F)));
+    SharedBytes steady = instruments::shared(instruments::floatWav(std::vector<float>(4800, 0.5F)));
 
     std::unique_ptr<platform::AudioPlayer> play(const SharedBytes& bytes, const platform::Playback& playback)
     {
@@ -81,7 +81,7 @@ TEST_F(PlayersTest, KeepTheirPitchWhenTheDeviceChangesItsRate)
 
 TEST_F(PlayersTest, SayWhyBytesCannotBePlayed)
 {
-    const auto player = players.play(testkit::shared(testkit::Bytes(10)), {});
+    const auto player = players.play(instruments::shared(instruments::Bytes(10)), {});
     ASSERT_FALSE(player);
     EXPECT_EQ(player.error().describe(), "The file is neither WAV, MP3 nor Ogg Vorbis.");
 }

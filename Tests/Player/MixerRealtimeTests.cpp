@@ -1,4 +1,4 @@
-#include "Player/EncodedSound.h"
+#include "Instruments/EncodedSound.h"
 #include "Player/MixerStage.h"
 #include "TestKit/RealtimeGuard.h"
 
@@ -18,7 +18,7 @@ using testkit::MixerStage;
 std::shared_ptr<const PcmClip> counted(std::atomic<int>& living, std::size_t frames, bool isStereo)
 {
     ++living;
-    auto samples = testkit::click(frames);
+    auto samples = instruments::click(frames);
     auto* const clip = isStereo ? new PcmClip(samples, std::vector<float>(frames, 0.1F), 48000.0)
                                 : new PcmClip(std::move(samples), 48000.0);
     return {clip, [&living](const PcmClip* dead) {

@@ -1,5 +1,5 @@
+#include "Instruments/EncodedSound.h"
 #include "Player/Decoding/PcmCache.h"
-#include "Player/EncodedSound.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ constexpr std::size_t kPlenty = std::size_t{1} << 30U;
 
 SharedBytes recording(std::size_t frames = 1000)
 {
-    return testkit::shared(testkit::floatWav(testkit::click(frames)));
+    return instruments::shared(instruments::floatWav(instruments::click(frames)));
 }
 
 TEST(PcmCache, DecodesTheSameBytesOnceAndEqualOnesApart)
@@ -30,11 +30,12 @@ TEST(PcmCache, DecodesTheSameBytesOnceAndEqualOnesApart)
 TEST(PcmCache, ConvertsToTheDevicesRateAndAgainWhenThatChanges)
 {
     PcmCache cache(kPlenty);
-    const auto bytes = testkit::shared(testkit::floatWav(testkit::sine(1000, 44100, 44100), 1, 44100));
+    const auto bytes =
+        instruments::shared(instruments::floatWav(instruments::sine(1000, 44100, 44100), 1, 44100));
     const auto first = cache.find(bytes, 48000.0).value();
     EXPECT_EQ(first->sampleRate(), 48000.0);
     EXPECT_NEAR(static_cast<double>(first->frameCount()), 48000.0, 1.0);
-    const auto expected = testkit::sine(1000, 48000, 48000);
+    const auto expected = instruments::sine(1000, 48000, 48000);
     for (std::size_t i = 1000; i < 47000; ++i) {
         ASSERT_NEAR(first->channel(0)[i], expected[i], 1e-4) << i;
     }
@@ -88,7 +89,7 @@ TEST(PcmCache, ForgetsRecordingsWhoseBytesAreGone)
 TEST(PcmCache, LooksIntoABrokenFileOnce)
 {
     PcmCache cache(kPlenty);
-    const auto broken = testkit::shared(testkit::Bytes(100));
+    const auto broken = instruments::shared(instruments::Bytes(100));
     const auto first = cache.find(broken, 48000.0);
     const auto second = cache.find(broken, 48000.0);
     ASSERT_FALSE(first);

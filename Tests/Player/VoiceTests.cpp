@@ -1,4 +1,4 @@
-#include "Player/EncodedSound.h"
+#include "Instruments/EncodedSound.h"
 #include "Player/MixerStage.h"
 #include "Player/Mixing/Voice.h"
 
@@ -81,7 +81,7 @@ const std::array kKernels{NamedKernel{.name = "baseline", .kernel = baselineSinc
 
 TEST(Voice, CopiesEveryFrameUnchangedAtTheRecordedSpeed)
 {
-    const auto noise = testkit::click(1000);
+    const auto noise = instruments::click(1000);
     for (const std::size_t block : {1U, 7U, 64U, 333U, 4096U}) {
         SCOPED_TRACE(block);
         auto sound = rendered(clipOf(noise), {}, bestSincKernel(), block);
@@ -98,9 +98,9 @@ TEST(Voice, KeepsTonesPureAndInTuneAtOtherSpeeds)
         for (const double frequency : {1000.0, 5000.0}) {
             for (const float rate : {0.82F, 0.903F, 0.999F, 1.03F, 1.071F, 1.2F, 1.352F}) {
                 SCOPED_TRACE(testing::Message() << name << ", " << frequency << " Hz at " << rate);
-                const auto clip =
-                    std::make_shared<const PcmClip>(testkit::sine(frequency, 48000.0, 24000),
-                                                    testkit::sine(frequency, 48000.0, 24000, 0.25), 48000.0);
+                const auto clip = std::make_shared<const PcmClip>(
+                    instruments::sine(frequency, 48000.0, 24000),
+                    instruments::sine(frequency, 48000.0, 24000, 0.25), 48000.0);
                 const auto sound = rendered(clip, {.rate = rate}, kernel);
                 const auto middle = [](const std::vector<float>& side) {
                     return std::span(side).subspan(100, 16000);
@@ -114,8 +114,8 @@ TEST(Voice, KeepsTonesPureAndInTuneAtOtherSpeeds)
 
 TEST(Voice, ReadsTheSameWithOneChannelAsWithTwoAndWhateverTheBlocks)
 {
-    const auto left = testkit::click(5000);
-    const auto right = testkit::sine(3000, 48000, 5000);
+    const auto left = instruments::click(5000);
+    const auto right = instruments::sine(3000, 48000, 5000);
     for (const auto& [name, kernel] : kKernels) {
         SCOPED_TRACE(name);
         const auto both = std::make_shared<const PcmClip>(left, right, 48000.0);
@@ -165,7 +165,7 @@ TEST(Voice, StaysWithinTheRecordingsMemoryAtAnySpeed)
 TEST(Voice, KeepsOutOfTheTrebleWhatAHighSpeedWouldFoldBack)
 {
     // At 1.35 times the speed, 22 kHz would come out at 48 − 29.7 = 18.3 kHz.
-    const auto sound = rendered(clipOf(testkit::sine(22000, 48000, 24000, 1.0)), {.rate = 1.35F});
+    const auto sound = rendered(clipOf(instruments::sine(22000, 48000, 24000, 1.0)), {.rate = 1.35F});
     double sum = 0.0;
     for (std::size_t i = 100; i < 16000; ++i) {
         sum += static_cast<double>(sound.left[i]) * static_cast<double>(sound.left[i]);

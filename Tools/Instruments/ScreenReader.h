@@ -1,6 +1,5 @@
 #pragma once
 
-#include "EndToEnd/ProgramAtWork.h"
 #include "Instruments/Process.h"
 
 #include <chrono>
@@ -9,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace tocca::endtoend {
+namespace tocca::instruments {
 
 /// A control as assistive programs see it. Units: pixels of the screen.
 struct Control {
@@ -54,4 +53,4 @@ private:
     std::unique_ptr<Bus> bus_;
 };
 
-} // namespace tocca::endtoend
+} // namespace tocca::instruments

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 using Bytes = std::vector<std::byte>;
 
@@ -43,4 +43,4 @@ enum class Encoding { Wav16, OggVorbis, Mp3, Flac, Aiff };
 /// A decaying noise, always the same: what a key sounds like to an encoder.
 [[nodiscard]] std::vector<float> click(std::size_t frames, float level = 0.8F);
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -1,4 +1,4 @@
-#include "EndToEnd/ScreenReader.h"
+#include "Instruments/ScreenReader.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -13,13 +13,14 @@
 #include <stdexcept>
 #include <thread>
 
-namespace tocca::endtoend {
+namespace tocca::instruments {
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr const char* kConnection = "accessibility";
-constexpr int kTimeout = 5000; // milliseconds
+constexpr int kTimeout = 5000;             // milliseconds
+constexpr std::chrono::seconds kStart{20}; // for the accessibility bus
 constexpr int kDeepest = 40;
 
 /// An object of a program, as the bus names it.
@@ -158,7 +159,7 @@ ScreenReader::ScreenReader()
     : launcher_({"/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1"})
 {
     QString address;
-    if (!holds([&address] { return !(address = addressOfTheBus()).isEmpty(); }, kDeadline)) {
+    if (!holds([&address] { return !(address = addressOfTheBus()).isEmpty(); }, kStart)) {
         throw std::runtime_error("there is no accessibility bus: " + launcher_.output());
     }
     bus_ = std::make_unique<Bus>(address);
@@ -192,4 +193,4 @@ std::optional<Control> ScreenReader::find(const std::string& name, const std::st
     return found;
 }
 
-} // namespace tocca::endtoend
+} // namespace tocca::instruments

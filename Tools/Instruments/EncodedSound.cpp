@@ -1,4 +1,4 @@
-#include "Player/EncodedSound.h"
+#include "Instruments/EncodedSound.h"
 
 #include <sndfile.h>
 
@@ -10,7 +10,7 @@
 #include <numbers>
 #include <string_view>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 namespace {
 
@@ -150,4 +150,4 @@ std::vector<float> click(std::size_t frames, float level)
     return samples;
 }
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments
