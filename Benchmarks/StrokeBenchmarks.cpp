@@ -1,8 +1,8 @@
 #include "Audio/Packs/SoundPackLoader.h"
+#include "Instruments/StrokePath.h"
 #include "Platform/Linux/System/Files/LinuxDirectories.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
 #include "Platform/Linux/System/Threads/Scheduling.h"
-#include "TestKit/StrokePath.h"
 
 #include <benchmark/benchmark.h>
 
@@ -29,7 +29,7 @@ double microseconds(Time::duration duration)
 void captureThread(benchmark::State& state)
 {
     const std::chrono::microseconds pause(state.range(0));
-    testkit::StrokePath path;
+    instruments::StrokePath path;
     std::vector<double> costs;
     std::atomic<bool> isOver{false};
     std::thread capture([&] {

@@ -1,9 +1,9 @@
 #include "Platform/Linux/Freedesktop/LinuxWorkspace.h"
 
 #include "Instruments/TemporaryDirectory.h"
+#include "Instruments/XServer.h"
 #include "Instruments/XWindow.h"
 #include "Linux/Qt/QtMachine.h"
-#include "Linux/X11/XServer.h"
 
 #include <gtest/gtest.h>
 
@@ -19,6 +19,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::XServer;
 
 using instruments::TemporaryDirectory;
 

@@ -1,5 +1,5 @@
+#include "Instruments/StrokePath.h"
 #include "TestKit/RealtimeGuard.h"
-#include "TestKit/StrokePath.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace tocca {
 namespace {
 
 /// Strikes the keys from `first` to before `last` on a capture thread, and returns what that thread may not do and did.
-testkit::RealtimeViolations strike(testkit::StrokePath& path, std::uint16_t first, std::uint16_t last)
+testkit::RealtimeViolations strike(instruments::StrokePath& path, std::uint16_t first, std::uint16_t last)
 {
     setThreadRole(ThreadRole::Capture);
     const testkit::RealtimeGuard guard;
@@ -24,7 +24,7 @@ TEST(StrokePath, NeitherAllocatesNorLocksOnTheCaptureThreadAndArrivesWhole)
 {
     constexpr std::uint16_t kKeys = 100; // fewer than a queue holds, so that none may be dropped
     constexpr std::uint16_t kAll = 3000; // more than the queues hold while nobody serves them
-    testkit::StrokePath path;
+    instruments::StrokePath path;
     testkit::RealtimeViolations violations;
     std::thread capture([&] { violations = strike(path, 0, kKeys); });
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);

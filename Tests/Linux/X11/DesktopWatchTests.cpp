@@ -1,7 +1,7 @@
 #include "Platform/Linux/X11/DesktopWatch.h"
 
+#include "Instruments/XServer.h"
 #include "Instruments/XWindow.h"
-#include "Linux/X11/XServer.h"
 #include "Platform/Linux/System/SecureInput.h"
 #include "Platform/Linux/X11/SecretPrompts.h"
 
@@ -20,6 +20,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::XServer;
 
 using instruments::XWindow;
 

@@ -1,5 +1,5 @@
 #include "Instruments/TemporaryDirectory.h"
-#include "Linux/X11/XServer.h"
+#include "Instruments/XServer.h"
 #include "Platform/Linux/X11/Input/X11TrustQuery.h"
 #include "Platform/StandardOutput.h"
 
@@ -16,6 +16,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::XServer;
 
 using instruments::TemporaryDirectory;
 

@@ -1,6 +1,6 @@
+#include "Instruments/XServer.h"
 #include "Instruments/XTestKeyboard.h"
 #include "Linux/X11/Listener.h"
-#include "Linux/X11/XServer.h"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +14,8 @@
 namespace tocca::platform::linux {
 
 namespace {
+
+using instruments::XServer;
 
 class XInputEventTap : public ::testing::Test {
 protected:

@@ -1,6 +1,4 @@
-#include "Linux/X11/XServer.h"
-
-#include "Platform/Linux/X11/XReply.h"
+#include "Instruments/XServer.h"
 
 #include <xcb/xcb.h>
 
@@ -12,7 +10,7 @@
 
 #include <unistd.h>
 
-namespace tocca::platform::linux {
+namespace tocca::instruments {
 
 namespace {
 
@@ -44,7 +42,7 @@ XServer::~XServer()
 void XServer::start()
 {
     // The server writes the number of its display once it is ready; its complaints are kept apart from that.
-    process_ = std::make_unique<instruments::Process>(std::vector<std::string>{
+    process_ = std::make_unique<Process>(std::vector<std::string>{
         "sh", "-c",
         "exec Xvfb " + ownDisplay() +
             " -displayfd 1 -nolisten tcp -noreset -screen 0 320x200x24 2>/dev/null"});
@@ -72,7 +70,7 @@ void XServer::goOn()
 void XServer::setLayoutOption(const std::string& option)
 {
     // The empty option comes first, because options add up.
-    instruments::Process setter({"setxkbmap", "-layout", "us", "-option", "", "-option", option});
+    Process setter({"setxkbmap", "-layout", "us", "-option", "", "-option", option});
     if (setter.waitForExit(kDeadline) != 0) {
         throw std::runtime_error("setxkbmap: " + setter.output());
     }
@@ -84,8 +82,9 @@ XServer::KeyboardGrab::KeyboardGrab()
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
     const auto cookie =
         xcb_grab_keyboard(connection_, 0, root, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const XReply<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(connection_, cookie, nullptr));
+    const std::unique_ptr<xcb_grab_keyboard_reply_t, decltype(&std::free)> reply(
+        xcb_grab_keyboard_reply(connection_, cookie, nullptr), &std::free);
     isActive_ = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
-} // namespace tocca::platform::linux
+} // namespace tocca::instruments

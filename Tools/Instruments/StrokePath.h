@@ -18,7 +18,7 @@
 
 #include <poll.h>
 
-namespace tocca::testkit {
+namespace tocca::instruments {
 
 /// Players that cost nothing, so that what is left is the road to them.
 class SilentPlayers final : public platform::AudioPlayers {
@@ -138,4 +138,4 @@ private:
     keyboard::KeyboardMonitor monitor_{host_, engine_};
 };
 
-} // namespace tocca::testkit
+} // namespace tocca::instruments

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace tocca::platform::linux {
+namespace tocca::instruments {
 
 /// An X server of a test's own, which DISPLAY names for as long as it lives; no Wayland compositor is to be seen.
 class XServer {
@@ -47,7 +47,7 @@ public:
     };
 
 private:
-    std::unique_ptr<instruments::Process> process_;
+    std::unique_ptr<Process> process_;
 };
 
-} // namespace tocca::platform::linux
+} // namespace tocca::instruments
