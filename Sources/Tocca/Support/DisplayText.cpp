@@ -3,6 +3,8 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
+#include <cstdint>
+
 namespace tocca {
 namespace {
 

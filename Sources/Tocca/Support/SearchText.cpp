@@ -4,6 +4,8 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
+#include <cstdint>
+
 namespace tocca {
 
 std::string searchForm(std::string_view text)
