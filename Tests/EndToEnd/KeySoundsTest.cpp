@@ -1,5 +1,5 @@
-#include "EndToEnd/Likeness.h"
 #include "EndToEnd/ProgramAtWork.h"
+#include "Instruments/Likeness.h"
 #include "Instruments/Now.h"
 
 #include <gmock/gmock.h>
@@ -56,7 +56,7 @@ TEST_F(KeySounds, EachKeySoundsFromWhereItIsWithTheRecordingsOfItsKind)
         {.name = "Enter", .key = KEY_ENTER, .slot = "press_enter", .least = 0.4, .most = 0.9},
         {.name = "Backspace", .key = KEY_BACKSPACE, .slot = "press_back", .least = 0.4, .most = 0.9},
     };
-    const std::vector<PackRecording> pack = readPack(HOLY_PANDA_DIRECTORY);
+    const std::vector<instruments::PackRecording> pack = instruments::readPack(HOLY_PANDA_DIRECTORY);
     ASSERT_FALSE(pack.empty()) << HOLY_PANDA_DIRECTORY;
     std::vector<std::uint16_t> keys;
     keys.reserve(rows.size());
@@ -71,7 +71,8 @@ TEST_F(KeySounds, EachKeySoundsFromWhereItIsWithTheRecordingsOfItsKind)
         ASSERT_TRUE(hearing.ofStroke[i].has_value());
         EXPECT_THAT(hearing.ofStroke[i]->onset.balance(), AllOf(Gt(rows[i].least), Lt(rows[i].most)));
         const double time = hearing.ofStroke[i]->time;
-        const Likeness most = mostLike(recording.between(time - 0.003, time + 0.030), pack);
+        const instruments::Likeness most =
+            instruments::mostLike(recording.between(time - 0.003, time + 0.030), pack);
         EXPECT_EQ(most.slot, rows[i].slot);
         EXPECT_GT(most.correlation, 0.98);
         EXPECT_THAT(most.rate, AllOf(Gt(kSlowest), Lt(kFastest)));

@@ -1,5 +1,5 @@
 #include "EndToEnd/InterfaceAtWork.h"
-#include "EndToEnd/Likeness.h"
+#include "Instruments/Likeness.h"
 #include "Instruments/Now.h"
 
 #include <algorithm>
@@ -55,7 +55,7 @@ protected:
         }
         const double time = hearing.ofStroke.front()->time;
         const auto recording = recorder->recording();
-        return mostLike(recording.between(time - 0.003, time + 0.030), packs).slot;
+        return instruments::mostLike(recording.between(time - 0.003, time + 0.030), packs).slot;
     }
 
     /// Whether the badge of the active switch is on the card of that title, and only there.
@@ -99,12 +99,12 @@ protected:
         return {count > 0 ? sum / count : 0, count};
     }
 
-    static std::vector<PackRecording> readAllPacks()
+    static std::vector<instruments::PackRecording> readAllPacks()
     {
-        std::vector<PackRecording> all;
+        std::vector<instruments::PackRecording> all;
         for (const Switch& each : kSwitches) {
-            for (PackRecording& recording :
-                 readPack(std::filesystem::path(SOUND_PACKS_DIRECTORY) / each.folder)) {
+            for (instruments::PackRecording& recording :
+                 instruments::readPack(std::filesystem::path(SOUND_PACKS_DIRECTORY) / each.folder)) {
                 if (recording.slot == "press_standard") {
                     recording.slot = each.folder;
                     all.push_back(std::move(recording));
@@ -114,7 +114,7 @@ protected:
         return all;
     }
 
-    const std::vector<PackRecording> packs = readAllPacks();
+    const std::vector<instruments::PackRecording> packs = readAllPacks();
 };
 
 TEST_F(Studio, ASwitchChosenInTheShowroomIsHeardAndMarked)

@@ -150,13 +150,5 @@ TEST(Glow, KeepsWithinTheScreen)
     }
 }
 
-TEST(UnderglowTheme, IsKnownByItsName)
-{
-    for (const UnderglowTheme theme : UnderglowTheme::allCases) {
-        EXPECT_EQ(UnderglowTheme::fromRawValue(theme.id()), theme);
-    }
-    EXPECT_EQ(UnderglowTheme::fromRawValue("studioAmber"), std::nullopt);
-}
-
 } // namespace
 } // namespace tocca::ui

@@ -1,9 +1,9 @@
-#include "EndToEnd/Likeness.h"
+#include "Instruments/Likeness.h"
 
 #include <cmath>
 #include <sndfile.h>
 
-namespace tocca::endtoend {
+namespace tocca::instruments {
 
 namespace {
 
@@ -92,4 +92,4 @@ Likeness mostLike(std::span<const float> sound, const std::vector<PackRecording>
     return most;
 }
 
-} // namespace tocca::endtoend
+} // namespace tocca::instruments

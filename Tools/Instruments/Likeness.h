@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tocca::endtoend {
+namespace tocca::instruments {
 
 /// A recording of a sound pack.
 struct PackRecording {
@@ -26,4 +26,4 @@ struct Likeness {
 /// Compares interleaved stereo `sound`, which begins within its first 4 ms, with each recording at rates from 0.94 to 1.04.
 [[nodiscard]] Likeness mostLike(std::span<const float> sound, const std::vector<PackRecording>& pack);
 
-} // namespace tocca::endtoend
+} // namespace tocca::instruments
