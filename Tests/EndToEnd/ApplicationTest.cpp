@@ -1,6 +1,6 @@
 #include "EndToEnd/InterfaceAtWork.h"
-#include "EndToEnd/Tray.h"
 #include "Instruments/Now.h"
+#include "Instruments/Tray.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -34,7 +34,7 @@ protected:
         ASSERT_TRUE(becomesTrue([this] { return hasPopover(); })) << program.output();
     }
 
-    Tray tray;
+    instruments::Tray tray;
 };
 
 TEST_F(Application, AClickOnTheTrayIconOpensThePopoverAndTheNextClosesIt)
@@ -127,7 +127,7 @@ TEST_F(Application, ClosingTheStudioHidesItAndASecondLaunchBringsItBack)
     EXPECT_TRUE(program.isRunning());
 
     instruments::Process second = startProgram();
-    EXPECT_EQ(second.waitForExit(kDeadline), 0) << second.output();
+    EXPECT_EQ(second.waitForExit(kPatience), 0) << second.output();
     EXPECT_TRUE(becomesTrue([this] { return window(kStudio).has_value(); })) << program.output();
     EXPECT_TRUE(becomesTrue([this] { return screen.activeWindow() == kStudio; }));
     EXPECT_EQ(second.countLines(kListens), 0) << "the second instance must not capture";
@@ -138,7 +138,7 @@ TEST_F(Application, QuitEndsTheProcess)
     openPopover();
     const double from = instruments::now();
     chord({KEY_LEFTCTRL, KEY_Q});
-    EXPECT_EQ(program.waitForExit(kDeadline), 0) << program.output();
+    EXPECT_EQ(program.waitForExit(kPatience), 0) << program.output();
     EXPECT_LT(instruments::now() - from, 5.0) << "meant: within a second on an idle computer";
 }
 
@@ -148,7 +148,7 @@ TEST(ApplicationWithoutTray, KeepsRunningAndSaysOnceHowItsWindowComesBack)
     const instruments::XScreen screen;
     instruments::XTestKeyboard hands;
     instruments::Process program = startProgram();
-    ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
+    ASSERT_TRUE(program.waitForLine(kListens, kPatience)) << program.output();
 
     for (int time = 0; time < 2; ++time) {
         ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();
@@ -158,9 +158,9 @@ TEST(ApplicationWithoutTray, KeepsRunningAndSaysOnceHowItsWindowComesBack)
         hands.release(KEY_LEFTCTRL);
         ASSERT_TRUE(becomesTrue(
             [&] { return screen.windowsOf(program.id()).empty() || screen.activeWindow() != kStudio; }));
-        ASSERT_TRUE(program.waitForLine(kWhere, kDeadline)) << program.output();
+        ASSERT_TRUE(program.waitForLine(kWhere, kPatience)) << program.output();
         instruments::Process again = startProgram();
-        EXPECT_EQ(again.waitForExit(kDeadline), 0) << again.output();
+        EXPECT_EQ(again.waitForExit(kPatience), 0) << again.output();
     }
     ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();
     EXPECT_EQ(program.countLines(kWhere), 1) << program.output();

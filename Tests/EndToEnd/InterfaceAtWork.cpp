@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 void InterfaceAtWork::SetUp()
 {
-    ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
+    ASSERT_TRUE(program.waitForLine(kListens, kPatience)) << program.output();
     ASSERT_TRUE(becomesTrue([this] { return window("Tocca Studio").has_value(); })) << program.output();
 }
 
@@ -37,13 +37,13 @@ void InterfaceAtWork::chord(const std::vector<std::uint16_t>& keys)
 
 void InterfaceAtWork::listen()
 {
-    recorder = std::make_unique<instruments::MonitorRecorder>(300s, kDeadline);
-    ASSERT_TRUE(instruments::becomesAudible(hands, *recorder, kDeadline)) << program.output();
+    recorder = std::make_unique<instruments::MonitorRecorder>(300s, kPatience);
+    ASSERT_TRUE(instruments::becomesAudible(hands, *recorder, kPatience)) << program.output();
 }
 
 instruments::Hearing InterfaceAtWork::typeAndHear(std::span<const std::uint16_t> keys)
 {
-    return instruments::typeAndHear(hands, *recorder, keys, {}, random, kDeadline);
+    return instruments::typeAndHear(hands, *recorder, keys, {}, random, kPatience);
 }
 
 std::optional<instruments::VisibleWindow> InterfaceAtWork::window(const std::string& title)
@@ -70,7 +70,7 @@ void InterfaceAtWork::keepPicture(const std::string& name) const
         }
     }
     instruments::Process convert({"convert", raw.string(), (folder / (name + ".png")).string()});
-    EXPECT_EQ(convert.waitForExit(kDeadline), 0) << convert.output();
+    EXPECT_EQ(convert.waitForExit(kPatience), 0) << convert.output();
     std::filesystem::remove(raw);
 }
 

@@ -36,7 +36,7 @@ struct SoundServerTakenAway {
 void expectCleanEnd(instruments::Process& program)
 {
     program.signal(SIGTERM);
-    EXPECT_EQ(program.waitForExit(kDeadline), 0) << program.output();
+    EXPECT_EQ(program.waitForExit(kPatience), 0) << program.output();
 }
 
 class Lifecycle : public ProgramAtWork {};
@@ -57,7 +57,7 @@ TEST_F(Lifecycle, IsHeardAgainAfterTheSoundServerWasKilledAndStartedAnew)
 
     server.bringBack();
     recordAgain();
-    EXPECT_TRUE(instruments::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
+    EXPECT_TRUE(instruments::becomesAudible(keyboard, *recorder, kPatience)) << program.output();
     expectCleanEnd(program);
 }
 
@@ -65,8 +65,8 @@ TEST(LifecycleWithoutSound, SaysOnceThatItIsSilentAndRunsOn)
 {
     const SoundServerTakenAway server;
     instruments::Process program = startProgram();
-    ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
-    ASSERT_TRUE(program.waitForLine("No sound:", kDeadline)) << program.output();
+    ASSERT_TRUE(program.waitForLine(kListens, kPatience)) << program.output();
+    ASSERT_TRUE(program.waitForLine("No sound:", kPatience)) << program.output();
 
     instruments::XTestKeyboard keyboard;
     std::mt19937 random(3); // NOLINT(cert-msc51-cpp,cert-msc32-c): the same typing each time
@@ -81,7 +81,7 @@ TEST(LifecycleWithoutDisplay, SaysOnceThatItCannotListenAndWaits)
     constexpr const char* kRefused = "Cannot start: Accessibility permission not granted yet.";
     instruments::Process program =
         startProgram({{"DISPLAY", std::nullopt}, {"WAYLAND_DISPLAY", std::nullopt}});
-    ASSERT_TRUE(program.waitForLine(kRefused, kDeadline)) << program.output();
+    ASSERT_TRUE(program.waitForLine(kRefused, kPatience)) << program.output();
     EXPECT_FALSE(program.waitForLine(kRefused, 4s, 2)) << "it asks every 1.5 s, but says so once";
     EXPECT_TRUE(program.isRunning()) << program.output();
     EXPECT_EQ(program.countLines(kListens), 0);

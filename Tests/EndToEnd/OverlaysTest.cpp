@@ -111,7 +111,7 @@ TEST_F(Overlays, TheHudOpensAtTheTopLetsClicksThroughAndLeaves)
         strike(KEY_A);
         clickAt(x, y);
         EXPECT_TRUE(
-            other->waitForLine("pressed at " + std::to_string(x) + " " + std::to_string(y), kDeadline));
+            other->waitForLine("pressed at " + std::to_string(x) + " " + std::to_string(y), kPatience));
     }
     EXPECT_EQ(screen.activeWindow(), kOther) << "the focus never moves";
     EXPECT_TRUE(becomesTrue([this] { return hudDarkness() < 0.01; })) << "it leaves by itself";

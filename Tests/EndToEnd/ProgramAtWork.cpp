@@ -3,7 +3,6 @@
 #include "Instruments/Now.h"
 
 #include <stdexcept>
-#include <thread>
 
 namespace tocca::endtoend {
 
@@ -29,45 +28,33 @@ void soundServer(const char* command)
     }
 }
 
-bool becomesTrue(const std::function<bool()>& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + kDeadline;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        std::this_thread::sleep_for(5ms);
-    }
-    return true;
-}
-
 void ProgramAtWork::SetUp()
 {
-    ASSERT_TRUE(program.waitForLine(kListens, kDeadline)) << program.output();
+    ASSERT_TRUE(program.waitForLine(kListens, kPatience)) << program.output();
     ASSERT_TRUE(becomesTrue([this] { return screen.activeWindow() == "Tocca Studio"; })) << program.output();
     elsewhere =
         std::make_unique<instruments::XWindow>(instruments::XWindow::Traits{"elsewhere", "Elsewhere"});
     elsewhere->activate();
     ASSERT_TRUE(becomesTrue([this] { return screen.activeWindow() != "Tocca Studio"; }));
     recordAgain();
-    ASSERT_TRUE(instruments::becomesAudible(keyboard, *recorder, kDeadline)) << program.output();
+    ASSERT_TRUE(instruments::becomesAudible(keyboard, *recorder, kPatience)) << program.output();
 }
 
 void ProgramAtWork::recordAgain()
 {
     recorder.reset();
-    recorder = std::make_unique<instruments::MonitorRecorder>(kCapacity, kDeadline);
+    recorder = std::make_unique<instruments::MonitorRecorder>(kCapacity, kPatience);
 }
 
 instruments::Hearing ProgramAtWork::typeAndHear(std::span<const std::uint16_t> keys,
                                                 const instruments::Rhythm& rhythm)
 {
-    return instruments::typeAndHear(keyboard, *recorder, keys, rhythm, random, kDeadline);
+    return instruments::typeAndHear(keyboard, *recorder, keys, rhythm, random, kPatience);
 }
 
 std::vector<instruments::Sound> ProgramAtWork::soundsSince(double from)
 {
-    EXPECT_TRUE(recorder->waitUntil(now(), kDeadline));
+    EXPECT_TRUE(recorder->waitUntil(now(), kPatience));
     return instruments::soundsOf(recorder->recording(), from);
 }
 

@@ -4,11 +4,11 @@
 #include "Instruments/MonitorRecorder.h"
 #include "Instruments/Process.h"
 #include "Instruments/Rehearsal.h"
+#include "Instruments/Waiting.h"
 #include "Instruments/XScreen.h"
 #include "Instruments/XTestKeyboard.h"
 #include "Instruments/XWindow.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <random>
@@ -21,14 +21,11 @@ namespace tocca::endtoend {
 inline constexpr const char* kListens =
     "✅ Global dedicated keyboard & peripheral tap thread running permanently!";
 
-/// How long anything may take on a busy computer before it counts as failed.
-inline constexpr std::chrono::seconds kDeadline{20};
+using instruments::becomesTrue;
+using instruments::kPatience;
 
 /// The program under test, started with changes to its environment.
 [[nodiscard]] instruments::Process startProgram(const instruments::Process::Environment& changes = {});
-
-/// Waits until `condition` holds; false when the deadline passes first.
-[[nodiscard]] bool becomesTrue(const std::function<bool()>& condition);
 
 /// Runs the session's own sound server commands, "stop-sound" and "start-sound".
 void soundServer(const char* command);

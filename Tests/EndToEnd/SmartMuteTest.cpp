@@ -27,7 +27,7 @@ protected:
     static void run(const std::string& command)
     {
         Process process({"sh", "-c", command + " >/dev/null"});
-        ASSERT_EQ(process.waitForExit(kDeadline), 0) << process.output();
+        ASSERT_EQ(process.waitForExit(kPatience), 0) << process.output();
     }
 
     /// Strikes a key again and again until `end`, and returns when what was heard since began.
@@ -69,7 +69,7 @@ protected:
     /// Strikes until a stroke stays unheard; false when every one is heard until the deadline.
     bool becomesSilent()
     {
-        const double end = now() + std::chrono::duration<double>(kDeadline).count();
+        const double end = now() + std::chrono::duration<double>(kPatience).count();
         while (now() < end) {
             std::this_thread::sleep_for(100ms); // beyond the sound of the stroke before
             const double from = now();
@@ -81,7 +81,7 @@ protected:
         return false;
     }
 
-    bool becomesAudible() { return instruments::becomesAudible(keyboard, *recorder, kDeadline); }
+    bool becomesAudible() { return instruments::becomesAudible(keyboard, *recorder, kPatience); }
 
     void click(std::uint8_t button)
     {

@@ -1,5 +1,7 @@
 #include "Instruments/MonitorRecorder.h"
 
+#include "Instruments/Waiting.h"
+
 #include "Instruments/Now.h"
 
 #include <algorithm>
@@ -9,31 +11,16 @@
 #include <spa/node/io.h>
 #include <spa/param/audio/format-utils.h>
 #include <stdexcept>
-#include <thread>
 
 namespace tocca::instruments {
 
 namespace {
 
 constexpr const char* kName = "tocca-recorder";
-constexpr std::chrono::milliseconds kPoll{2};
 constexpr std::size_t kMinQuantum = 32;
 constexpr double kNanosecond = 1e-9;
 /// What gives the data thread real-time scheduling; without it a busy computer makes it miss cycles.
 constexpr const char* kConfiguration = PW_CHECK_VERSION(1, 3, 81) ? "client.conf" : "client-rt.conf";
-
-template <typename Wanted>
-bool waitFor(std::chrono::milliseconds deadline, Wanted isThere)
-{
-    const auto end = std::chrono::steady_clock::now() + deadline;
-    while (!isThere()) {
-        if (std::chrono::steady_clock::now() >= end) {
-            return false;
-        }
-        std::this_thread::sleep_for(kPoll);
-    }
-    return true;
-}
 
 } // namespace
 
@@ -205,7 +192,7 @@ const pw_stream_events MonitorRecorder::Stream::kEvents = [] {
 MonitorRecorder::MonitorRecorder(std::chrono::seconds capacity, std::chrono::milliseconds deadline)
     : stream_(std::make_unique<Stream>(capacity))
 {
-    if (!waitFor(deadline, [this] { return stream_->recordedUntil() > 0.0; })) {
+    if (!becomesTrue([this] { return stream_->recordedUntil() > 0.0; }, deadline)) {
         throw std::runtime_error("no sink is playing");
     }
 }
@@ -214,7 +201,7 @@ MonitorRecorder::~MonitorRecorder() = default;
 
 bool MonitorRecorder::waitUntil(double time, std::chrono::milliseconds deadline) const
 {
-    return waitFor(deadline, [&] { return stream_->recordedUntil() > time; });
+    return becomesTrue([&] { return stream_->recordedUntil() > time; }, deadline);
 }
 
 Recording MonitorRecorder::recording() const

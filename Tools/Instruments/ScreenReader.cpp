@@ -9,9 +9,7 @@
 #include <QRect>
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <stdexcept>
-#include <thread>
 
 namespace tocca::instruments {
 namespace {
@@ -19,8 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr const char* kConnection = "accessibility";
-constexpr int kTimeout = 5000;             // milliseconds
-constexpr std::chrono::seconds kStart{20}; // for the accessibility bus
+constexpr int kTimeout = 5000; // milliseconds
 constexpr int kDeepest = 40;
 
 /// An object of a program, as the bus names it.
@@ -45,18 +42,6 @@ QString addressOfTheBus()
         QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress");
     const QDBusReply<QString> reply = QDBusConnection::sessionBus().call(ask, QDBus::Block, kTimeout);
     return reply.value();
-}
-
-bool holds(const std::function<bool()>& condition, std::chrono::milliseconds deadline)
-{
-    const auto end = std::chrono::steady_clock::now() + deadline;
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end) {
-            return false;
-        }
-        std::this_thread::sleep_for(20ms);
-    }
-    return true;
 }
 
 } // namespace
@@ -159,7 +144,7 @@ ScreenReader::ScreenReader()
     : launcher_({"/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1"})
 {
     QString address;
-    if (!holds([&address] { return !(address = addressOfTheBus()).isEmpty(); }, kStart)) {
+    if (!becomesTrue([&address] { return !(address = addressOfTheBus()).isEmpty(); })) {
         throw std::runtime_error("there is no accessibility bus: " + launcher_.output());
     }
     bus_ = std::make_unique<Bus>(address);
@@ -178,7 +163,7 @@ std::optional<Control> ScreenReader::find(const std::string& name, const std::st
                                           std::chrono::milliseconds deadline) const
 {
     std::optional<Control> found;
-    (void)holds(
+    (void)becomesTrue(
         [&] {
             const auto all = controls();
             const auto match = std::find_if(all.begin(), all.end(), [&](const Control& control) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Instruments/Process.h"
+#include "Instruments/Waiting.h"
 
 #include <chrono>
 #include <memory>
@@ -43,9 +44,8 @@ public:
     [[nodiscard]] std::vector<Control> controls() const;
 
     /// Waits until a control of that name is to be seen; none when there is none by the deadline. `role` may be empty.
-    [[nodiscard]] std::optional<Control>
-    find(const std::string& name, const std::string& role = {},
-         std::chrono::milliseconds deadline = std::chrono::seconds(20)) const;
+    [[nodiscard]] std::optional<Control> find(const std::string& name, const std::string& role = {},
+                                              std::chrono::milliseconds deadline = kPatience) const;
 
 private:
     class Bus;

@@ -1,21 +1,18 @@
 #include "Instruments/Process.h"
+#include "Instruments/Waiting.h"
 #include "OwnRecording.h"
 #include "Platform/AudioDevicesConformance.h"
 #include "Platform/Linux/Audio/LinuxAudioDevices.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <map>
 #include <memory>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace tocca::platform {
 namespace {
-
-constexpr std::chrono::seconds kDeadline{20};
 
 /// A sound server in the private session, and programs that record from it.
 template <class Kind>
@@ -55,20 +52,13 @@ public:
     static void run(const std::string& command)
     {
         instruments::Process process({"sh", "-c", command + " >/dev/null"});
-        EXPECT_EQ(process.waitForExit(kDeadline), 0) << command << '\n' << process.output();
+        EXPECT_EQ(process.waitForExit(instruments::kPatience), 0) << command << '\n' << process.output();
     }
 
     template <class Condition>
-    bool eventually(Condition condition)
+    bool eventually(const Condition& condition)
     {
-        const auto end = std::chrono::steady_clock::now() + kDeadline;
-        while (!condition()) {
-            if (std::chrono::steady_clock::now() > end) {
-                return false;
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(2));
-        }
-        return true;
+        return instruments::becomesTrue(condition);
     }
 
 private:
@@ -140,7 +130,7 @@ protected:
         // Until it runs there is nothing to be seen of it.
         ASSERT_TRUE(this->machine_.eventually([] {
             instruments::Process list({"sh", "-c", "pactl list source-outputs | grep 'Corked: no'"});
-            return list.waitForExit(kDeadline) == 0;
+            return list.waitForExit(instruments::kPatience) == 0;
         }));
         this->machine_.plugIn(
             "witness"); // events come in order: by the time this one is known, so is the suspect's

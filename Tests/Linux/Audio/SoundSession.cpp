@@ -1,10 +1,8 @@
 #include "SoundSession.h"
 
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
 #include <vector>
 
 namespace tocca::platform::linux {
@@ -75,11 +73,6 @@ bool SoundSession::plays(SoundServer server) const
         const AudioOutputState state = output->state();
         return state.server == server && (server == SoundServer::None || state.cycles > before);
     });
-}
-
-void SoundSession::pause()
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
 } // namespace tocca::platform::linux

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Instruments/Waiting.h"
 #include "PatternSource.h"
 #include "Platform/Linux/Audio/LinuxAudioOutput.h"
 #include "Platform/Linux/System/LinuxClock.h"
@@ -34,18 +35,10 @@ protected:
 
     static void runInSession(const std::string& command);
 
-    /// Waits until `condition` holds; false when that takes longer than anything here ever should.
     template <class Condition>
-    [[nodiscard]] static bool eventually(Condition condition)
+    [[nodiscard]] static bool eventually(const Condition& condition)
     {
-        const double deadline = monotonicSeconds() + kDeadline;
-        while (!condition()) {
-            if (monotonicSeconds() > deadline) {
-                return false;
-            }
-            pause();
-        }
-        return true;
+        return instruments::becomesTrue(condition);
     }
 
     void startOutput(LinuxAudioOutputOptions options = {});
@@ -60,9 +53,6 @@ protected:
     std::unique_ptr<LinuxAudioOutput> output;
 
 private:
-    static constexpr double kDeadline = 20.0; // seconds
-
-    static void pause();
 };
 
 } // namespace tocca::platform::linux

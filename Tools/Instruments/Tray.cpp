@@ -1,13 +1,13 @@
-#include "EndToEnd/Tray.h"
+#include "Instruments/Tray.h"
 
-#include "EndToEnd/InterfaceAtWork.h"
+#include "Instruments/Waiting.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
-namespace tocca::endtoend {
+namespace tocca::instruments {
 namespace {
 
 constexpr int kPanelHeight = 30;
@@ -54,4 +54,4 @@ std::optional<std::pair<int, int>> Tray::icon()
     return middle;
 }
 
-} // namespace tocca::endtoend
+} // namespace tocca::instruments

@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-namespace tocca::endtoend {
+namespace tocca::instruments {
 
 /// A panel that takes in status icons, at the bottom right of the screen.
 class Tray {
@@ -19,8 +19,8 @@ public:
     [[nodiscard]] std::optional<std::pair<int, int>> icon();
 
 private:
-    instruments::Process panel_;
-    instruments::XScreen screen_;
+    Process panel_;
+    XScreen screen_;
 };
 
-} // namespace tocca::endtoend
+} // namespace tocca::instruments
