@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace tocca::soundpack {
