@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <set>
 
