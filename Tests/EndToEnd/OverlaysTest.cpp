@@ -27,6 +27,11 @@ protected:
         other.emplace(std::vector<std::string>{OTHER_PROGRAM, "0", "0", std::to_string(screen.width()),
                                                std::to_string(screen.height())});
         ASSERT_TRUE(becomesTrue([this] { return screen.activeWindow() == kOther; })) << other->output();
+        // It may be in front before it is painted, and is dark until then.
+        ASSERT_TRUE(becomesTrue([this] {
+            constexpr int kWhite = 200;
+            return screen.picture(0, screen.height() / 2, 1, 1).at(0, 0).red > kWhite;
+        }));
     }
 
     void strike(std::uint16_t key)
