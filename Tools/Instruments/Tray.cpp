@@ -15,7 +15,8 @@ constexpr int kBright = 200; // an icon's strokes on the black panel
 
 std::string configuration()
 {
-    const auto file = std::filesystem::path(std::getenv("XDG_RUNTIME_DIR")) / "tray.conf";
+    const char* const runtime = std::getenv("XDG_RUNTIME_DIR"); // NOLINT(concurrency-mt-unsafe)
+    const auto file = std::filesystem::path(runtime) / "tray.conf";
     std::ofstream(file)
         << "panel_items = S\npanel_position = bottom right horizontal\npanel_size = 200 " << kPanelHeight
         << "\npanel_background_id = 1\nsystray_icon_size = 22\nrounded = 0\nbackground_color = #000000 100\n"

@@ -10,6 +10,8 @@
 
 #include <unistd.h>
 
+// The tests that use it change their environment on one thread.
+// NOLINTBEGIN(concurrency-mt-unsafe)
 namespace tocca::instruments {
 
 namespace {
@@ -88,3 +90,5 @@ XServer::KeyboardGrab::KeyboardGrab()
 }
 
 } // namespace tocca::instruments
+
+// NOLINTEND(concurrency-mt-unsafe)

@@ -40,6 +40,7 @@ void MenuBarViewModel::refreshRows()
 {
     const auto& engine = controllers_.audioEngine;
     std::vector<SoundPackRow> builtIn;
+    builtIn.reserve(audio::SwitchType::allCases.size());
     for (const audio::SwitchType type : audio::SwitchType::allCases) {
         builtIn.push_back({.icon = toQString(type.iconName()),
                            .title = toQString(type.rawValue()),
