@@ -64,11 +64,13 @@ TEST_F(KeySounds, EachKeySoundsFromWhereItIsWithTheRecordingsOfItsKind)
     for (const Row& row : rows) {
         keys.push_back(row.key);
     }
-    // A cycle that the sound server misses leaves a hole in a stroke, so each key has several.
+    // Now and then a stroke is recorded unlike any recording, most likely where a cycle was missed; so each key has several.
     constexpr int kTimes = 4;
     std::vector<double> best(rows.size(), 0.0);
+    std::size_t fewestOthers = keys.size();
     for (int time = 0; time < kTimes; ++time) {
         const instruments::Hearing hearing = typeAndHear(keys, kSlowly);
+        fewestOthers = std::min(fewestOthers, hearing.others.size());
         const instruments::Recording recording = recorder->recording();
         for (std::size_t i = 0; i < rows.size(); ++i) {
             SCOPED_TRACE(rows[i].name);
@@ -85,6 +87,7 @@ TEST_F(KeySounds, EachKeySoundsFromWhereItIsWithTheRecordingsOfItsKind)
         }
     }
     EXPECT_THAT(best, testing::Each(Gt(0.98)));
+    EXPECT_EQ(fewestOthers, 0U);
 }
 
 TEST_F(KeySounds, AHeldKeySoundsOnce)
