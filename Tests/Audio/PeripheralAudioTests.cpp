@@ -16,7 +16,7 @@ namespace {
 
 using platform::memory::MemoryHost;
 
-constexpr std::uint64_t kTopDraw = ~std::uint64_t{0};
+constexpr std::uint64_t kLastOfAll = ~std::uint64_t{0};
 
 std::vector<int> samplesOf(const std::vector<std::byte>& wav)
 {
@@ -96,7 +96,7 @@ TEST_F(PeripheralAudioTest, GivesEveryProfileItsTwoClicks)
 TEST_F(PeripheralAudioTest, PlaysClicksAtTheirLevelUnshapedByKeySettings)
 {
     engine.lubeLevel.set(1.0F);
-    host.random().script({kTopDraw});
+    host.random().script({kLastOfAll});
     clickSize(MouseButton::left);
     EXPECT_FLOAT_EQ(host.audioPlayers().last().volume, 0.85F);
     EXPECT_FLOAT_EQ(host.audioPlayers().last().rate, 1.04F);
@@ -127,7 +127,7 @@ TEST_F(PeripheralAudioTest, ScalesTheTickWithTheScrollSpeed)
          {Row{0, 1.0F}, Row{1, 1.02F}, Row{-5, 1.1F}, Row{15, 1.3F}, Row{-900, 1.3F}, Row{nan, 0.85F}}) {
         SCOPED_TRACE(row.delta);
         host.advance(1);
-        host.random().script({kTopDraw});
+        host.random().script({kLastOfAll});
         soundsAfterScroll(row.delta);
         EXPECT_FLOAT_EQ(host.audioPlayers().last().rate, row.factor * 1.04F);
         EXPECT_FLOAT_EQ(host.audioPlayers().last().volume, 0.45F);

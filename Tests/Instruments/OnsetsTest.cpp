@@ -14,14 +14,14 @@ namespace {
 
 using testing::Pointwise;
 
-constexpr double kRate = 48000.0;
+constexpr double kTapeRate = 48000.0;
 constexpr double kBumpToBottomOut = 0.0034; // seconds
 
 /// Interleaved stereo silence that key sounds can be struck into.
 class Tape {
 public:
     explicit Tape(double seconds)
-        : samples(2 * static_cast<std::size_t>(seconds * kRate), 0.0F)
+        : samples(2 * static_cast<std::size_t>(seconds * kTapeRate), 0.0F)
     {}
 
     /// Adds a sound like a key's: a quiet bump, then the bottom-out, 60 dB of decay in 90 ms.
@@ -38,10 +38,10 @@ private:
     {
         constexpr double kDecay = 6.9 / 0.09;
         constexpr std::size_t kLength = 9600;
-        const auto begin = static_cast<std::size_t>(std::lround(at * kRate));
+        const auto begin = static_cast<std::size_t>(std::lround(at * kTapeRate));
         const auto end = std::min(samples.size() / 2, begin + kLength);
         for (std::size_t i = begin; i < end; ++i) {
-            const double t = static_cast<double>(i - begin) / kRate;
+            const double t = static_cast<double>(i - begin) / kTapeRate;
             const double sound = std::exp(-kDecay * t) *
                                  (0.6 * std::cos(2.0 * std::numbers::pi * 900.0 * t) + 0.4 * noise_(engine_));
             samples[2 * i] += static_cast<float>(left * sound);
@@ -58,7 +58,7 @@ std::vector<double> times(const std::vector<Onset>& onsets)
     std::vector<double> result;
     result.reserve(onsets.size());
     for (const Onset& onset : onsets) {
-        result.push_back(static_cast<double>(onset.frame) / kRate);
+        result.push_back(static_cast<double>(onset.frame) / kTapeRate);
     }
     return result;
 }
@@ -82,7 +82,7 @@ TEST(Onsets, FindsEachStrokeOnceAtTwentyASecondThoughTheirTailsOverlap)
         struck.push_back(at);
         at += interval(engine);
     }
-    EXPECT_THAT(times(findOnsets(tape.samples, kRate)), Pointwise(IsTheSameStroke(), struck));
+    EXPECT_THAT(times(findOnsets(tape.samples, kTapeRate)), Pointwise(IsTheSameStroke(), struck));
 }
 
 TEST(Onsets, AreExactInSilenceAndTellWhereTheSoundIs)
@@ -90,7 +90,7 @@ TEST(Onsets, AreExactInSilenceAndTellWhereTheSoundIs)
     Tape tape(1.0);
     tape.strike(0.2, 1.0F, 0.3F);
     tape.strike(0.6, 0.0F, 0.01F);
-    const std::vector<Onset> onsets = findOnsets(tape.samples, kRate);
+    const std::vector<Onset> onsets = findOnsets(tape.samples, kTapeRate);
     ASSERT_EQ(onsets.size(), 2U);
     EXPECT_EQ(onsets[0].frame, 9600U);
     EXPECT_LT(onsets[0].balance(), -0.8);
@@ -101,19 +101,19 @@ TEST(Onsets, AreExactInSilenceAndTellWhereTheSoundIs)
 TEST(Onsets, AreNotFoundInSilenceNorInASteadySound)
 {
     Tape silence(0.5);
-    EXPECT_TRUE(findOnsets(silence.samples, kRate).empty());
+    EXPECT_TRUE(findOnsets(silence.samples, kTapeRate).empty());
 
     std::vector<float> steady;
     for (int i = 0; i < 24000; ++i) {
         steady.insert(steady.end(), 2, 0.3F * std::sin(0.05F * static_cast<float>(i)));
     }
-    EXPECT_EQ(findOnsets(steady, kRate).size(), 1U);
+    EXPECT_EQ(findOnsets(steady, kTapeRate).size(), 1U);
 }
 
 TEST(Recording, TellsTheTimeOfEachFrameAcrossAGap)
 {
     Recording recording;
-    constexpr double kBlock = 64 / kRate;
+    constexpr double kBlock = 64 / kTapeRate;
     recording.samples.resize(384);
     recording.blocks = {
         {.frame = 0, .time = 10.0}, {.frame = 64, .time = 10.5}, {.frame = 128, .time = 10.5 + kBlock}};

@@ -38,7 +38,7 @@ std::vector<float> limited(const std::vector<float>& input, const std::vector<st
     return output;
 }
 
-float peakOf(const std::vector<float>& samples)
+float highest(const std::vector<float>& samples)
 {
     float peak = 0.0F;
     for (const float sample : samples) {
@@ -52,7 +52,7 @@ double truePeakDb(const std::vector<float>& samples)
 {
     const auto fine = resampled(PcmClip(samples, kRate), 8 * kRate);
     const auto channel = fine.value().channel(0);
-    return 20.0 * std::log10(static_cast<double>(peakOf({channel.begin(), channel.end()})));
+    return 20.0 * std::log10(static_cast<double>(highest({channel.begin(), channel.end()})));
 }
 
 std::vector<float> noise(std::size_t frames, float level)
@@ -108,7 +108,7 @@ TEST(Limiter, NeverLetsASampleOverTheCeiling)
         for (const auto& blocks : kBlockings) {
             for (const auto& input :
                  {noise(5000, level), strokes(level, 0.45F), instruments::sine(60, kRate, 5000, level)}) {
-                EXPECT_LE(peakOf(limited(input, blocks)), Limiter::kCeiling);
+                EXPECT_LE(highest(limited(input, blocks)), Limiter::kCeiling);
             }
         }
     }

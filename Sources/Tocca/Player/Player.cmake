@@ -36,6 +36,7 @@ app_module(tocca_player
     SOURCES ${processor_sources}
     HEADERS
         Player/Mixing/DenormalGuard.h
+        Player/Mixing/Four.h
         Player/Mixing/SincKernelBody.h
         Player/Mixing/StrokeTrace.h
         Player/Mixing/VoiceRequest.h

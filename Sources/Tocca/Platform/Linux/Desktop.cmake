@@ -86,7 +86,8 @@ app_precompile(tocca_linux_desktop
     <functional> <memory> <optional> <string> <vector>
     <QDBusConnection> <QDBusPendingCallWatcher> <QGuiApplication> <QObject> <QQuickWindow> <QTimer>)
 # The compiler's own macros would make a number of the namespace `linux`.
-set_target_properties(tocca_linux_desktop PROPERTIES AUTOMOC ON AUTOMOC_COMPILER_PREDEFINES OFF)
+# Each source may call the bus name, path and interface that it speaks to by the same words.
+set_target_properties(tocca_linux_desktop PROPERTIES UNITY_BUILD OFF AUTOMOC ON AUTOMOC_COMPILER_PREDEFINES OFF)
 target_compile_definitions(tocca_linux_desktop
     PUBLIC QT_NO_KEYWORDS
     PRIVATE TOCCA_VERSION="${PROJECT_VERSION}")

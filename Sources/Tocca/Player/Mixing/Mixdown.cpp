@@ -1,5 +1,7 @@
 #include "Player/Mixing/Mixdown.h"
 
+#include "Player/Mixing/Four.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -9,16 +11,7 @@ namespace tocca::player {
 
 namespace {
 
-using Four [[gnu::vector_size(16)]] = float;
-
 constexpr std::size_t kGroup = 4;
-
-Four load(const float* from) noexcept
-{
-    Four vector;
-    std::memcpy(&vector, from, sizeof vector);
-    return vector;
-}
 
 void add(float* to, Four what) noexcept
 {

@@ -1,24 +1,16 @@
 #include "Player/Mixing/TruePeak.h"
 
+#include "Player/Mixing/Four.h"
+
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace tocca::player {
 
 namespace {
 
 // Gentle enough to be true to peaks up to 20 kHz, where they rise highest between samples.
-constexpr double kKaiserBeta = 4.0;
-
-using Four [[gnu::vector_size(16)]] = float;
-
-Four load(const float* from) noexcept
-{
-    Four vector;
-    std::memcpy(&vector, from, sizeof vector);
-    return vector;
-}
+constexpr double kGentleBeta = 4.0;
 
 } // namespace
 
@@ -26,7 +18,7 @@ TruePeak::TruePeak() noexcept
 {
     for (std::size_t phase = 0; phase < kPhases; ++phase) {
         const double position = static_cast<double>(phase + 1) / static_cast<double>(kPhases + 1);
-        const auto weights = sincWeights(position, 1.0, kKaiserBeta);
+        const auto weights = sincWeights(position, 1.0, kGentleBeta);
         for (std::size_t i = 0; i < weights_[phase].size(); ++i) {
             weights_[phase][i] = static_cast<float>(weights[i / 2]);
         }

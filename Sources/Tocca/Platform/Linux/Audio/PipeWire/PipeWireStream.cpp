@@ -15,7 +15,7 @@ namespace tocca::platform::linux {
 namespace {
 
 constexpr std::uint32_t kChannels = 2;
-constexpr std::uint32_t kFrameBytes = kChannels * sizeof(float);
+constexpr std::uint32_t kStride = kChannels * sizeof(float);
 constexpr double kNanosecond = 1e-9;
 
 std::string latencyOf(int quantum, double sampleRate)
@@ -136,7 +136,7 @@ void PipeWireStream::process() noexcept
         return;
     }
     spa_data& data = buffer->buffer->datas[0];
-    std::uint64_t count = data.maxsize / kFrameBytes;
+    std::uint64_t count = data.maxsize / kStride;
     if (buffer->requested > 0) {
         count = std::min(count, buffer->requested);
     }
@@ -155,8 +155,8 @@ void PipeWireStream::process() noexcept
         meter_.render(source_, {static_cast<float*>(data.data), count * kChannels}, cycle);
     }
     data.chunk->offset = 0;
-    data.chunk->stride = kFrameBytes;
-    data.chunk->size = static_cast<std::uint32_t>(count) * kFrameBytes;
+    data.chunk->stride = kStride;
+    data.chunk->size = static_cast<std::uint32_t>(count) * kStride;
     REALTIME_TRUSTED(pw_stream_queue_buffer(native_->stream, buffer));
 }
 

@@ -46,8 +46,8 @@ FileKind kindOf(mode_t mode)
 
 Outcome copyDirectory(const fs::path& to, mode_t mode)
 {
-    constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
-    if (::mkdir(to.c_str(), (mode & kPermissions) | S_IRWXU) != 0) {
+    constexpr mode_t kEverybodyMay = S_IRWXU | S_IRWXG | S_IRWXO;
+    if (::mkdir(to.c_str(), (mode & kEverybodyMay) | S_IRWXU) != 0) {
         return fileError(to, errno);
     }
     return std::monostate{};
