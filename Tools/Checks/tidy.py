@@ -48,6 +48,13 @@ def dependencies(build):
     return result
 
 
+def apart(entry):
+    """A compile command for each source: those that are compiled together include one another in a file that CMake writes."""
+    file = Path(entry["file"])
+    together = file.parent.name == "Unity" and re.findall(r'^#include "(.*)"$', file.read_text(), re.MULTILINE)
+    return [{**entry, "file": source, "unity": entry["file"]} for source in together] if together else [entry]
+
+
 def output(entry):
     words = shlex.split(entry["command"])
     return words[words.index("-o") + 1]
@@ -61,7 +68,7 @@ def flags(entry):
     for i, word in reversed(list(enumerate(words))):
         if word == "-include" and "cmake_pch" in words[i + 1]:
             del words[i:i + 2]
-    return tuple(word for word in words if word not in (entry["file"], "-c", "-Winvalid-pch"))
+    return tuple(word for word in words if word not in (entry["file"], entry.get("unity"), "-c", "-Winvalid-pch"))
 
 
 def fingerprint(entry, files, common):
@@ -136,7 +143,8 @@ def main():
 
     groups = defaultdict(dict)  # (folder of the checks, flags, directory) -> source -> its stamps
     total = 0
-    for entry in json.loads((build / "compile_commands.json").read_text()):
+    entries = json.loads((build / "compile_commands.json").read_text())
+    for entry in (source for entry in entries for source in apart(entry)):
         if not is_ours(Path(entry["file"])):
             continue
         total += 1
