@@ -15,6 +15,10 @@
 #include <QGuiApplication>
 #include <QtQml/QQmlExtensionPlugin>
 
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
 Q_IMPORT_QML_PLUGIN(Tocca_UIPlugin)
 
 namespace {
@@ -23,6 +27,10 @@ using namespace tocca;
 
 /// The Linux desktop with Tocca's own player, in the order in which the parts need each other.
 struct Desktop {
+    Desktop(const std::string& display, const QByteArray& launch)
+        : system(display, launch)
+    {}
+
     platform::linux::LinuxHost system;
     player::Mixer mixer{system.clock()};
     platform::linux::LinuxAudioOutput output{system.standardOutput(), {.appeal = system.appeal()}};
@@ -53,16 +61,23 @@ int main(int /*argc*/, char** argv)
     setThreadRole(ThreadRole::Main);
     platform::linux::LinuxStandardOutput::reserveDescriptors();
     platform::linux::TerminationSignals signals; // before Qt starts a thread that would receive them
-    platform::linux::chooseDisplay();
-    int nameAlone = 1; // the program takes no options, not even Qt's
+    const auto display = platform::linux::chooseDisplay();
+    if (!display) {
+        constexpr const char* kNoDisplay = "Tocca needs a graphical session: no display answers. Start it "
+                                           "from the desktop, or set DISPLAY or WAYLAND_DISPLAY.\n";
+        std::fputs(kNoDisplay, stderr);
+        return EXIT_FAILURE;
+    }
+    const QByteArray launch = qgetenv("DESKTOP_STARTUP_ID"); // before Qt takes it for itself
+    int nameAlone = 1;                                       // the program takes no options, not even Qt's
     const QGuiApplication application(nameAlone, argv);
     signals.attach();
     platform::linux::chooseRenderer();
     // Never deleted: the controllers, what they stand on and what shows them live as long as the process.
-    auto& desktop = *new Desktop;
+    auto& desktop = *new Desktop(*display, launch);
     platform::setDefaultHost(desktop.host);
-    if (!desktop.system.application().isFirstInstance()) {
-        return 0;
+    if (const auto status = desktop.system.application().statusOfSecondInstance()) {
+        return *status;
     }
     auto& interface =
         *new ui::Interface({.showMainWindow = [] { app::AppDelegate::shared()->showMainWindow(); },

@@ -55,7 +55,9 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
     OwnWindows windows;
     Lines lines;
     LinuxApplication application(
-        {.windows = windows, .output = lines, .hasStatusIcon = [] { return false; }});
+        {.display = "here", .launch = {}, .windows = windows, .output = lines, .hasStatusIcon = [] {
+             return false;
+         }});
     LinuxWindows factory(windows);
     Content content;
     const auto window = factory.make(
@@ -67,6 +69,9 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
         instruments::Process second({TOCCA_SECOND_INSTANCE});
         runUntil(
             [&] { return (secondsStatus = second.waitForExit(std::chrono::milliseconds(1))).has_value(); });
+        EXPECT_EQ(delegate.reopenings, 0) << "not before launching has ended";
+        instruments::Process elsewhere({TOCCA_SECOND_INSTANCE, "elsewhere"});
+        EXPECT_EQ(elsewhere.waitForExit(std::chrono::seconds(20)), 2) << "each display has its own";
         application.setActivationPolicy(ActivationPolicy::regular);
         window->makeKeyAndOrderFront();
         EXPECT_TRUE(runUntil([&] { return content.isShown(); }));
@@ -83,9 +88,9 @@ TEST(ApplicationDesktop, IsTheOnlyOneAndIsToldOfALaterLaunch)
                                      "the window back."));
 
     instruments::Process next({TOCCA_SECOND_INSTANCE});
-    EXPECT_EQ(next.waitForExit(std::chrono::seconds(20)), 1) << "the name is free again";
+    EXPECT_EQ(next.waitForExit(std::chrono::seconds(20)), 2) << "the name is free again";
     instruments::Process alone({TOCCA_SECOND_INSTANCE}, {{"DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"}});
-    EXPECT_EQ(alone.waitForExit(std::chrono::seconds(20)), 1) << "it runs without a bus";
+    EXPECT_EQ(alone.waitForExit(std::chrono::seconds(20)), 2) << "it runs without a bus";
 }
 
 class Target final : public MenuTarget {

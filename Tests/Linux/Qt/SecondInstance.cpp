@@ -8,7 +8,7 @@ namespace {
 /// Ends the program as soon as it runs.
 class Delegate final : public tocca::platform::ApplicationDelegate {
 public:
-    void applicationDidFinishLaunching() override { QCoreApplication::exit(1); }
+    void applicationDidFinishLaunching() override { QCoreApplication::exit(2); }
 
     bool applicationShouldHandleReopen(bool /*hasVisibleWindows*/) override { return true; }
 
@@ -17,14 +17,17 @@ public:
 
 } // namespace
 
-/// The program launched again: 0 when another instance was there, 1 when it would have run.
+/// The program launched again, on the display whose name is given: 0 when another instance was there, 1 when it does not answer, 2 when it would have run.
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
     tocca::platform::linux::OwnWindows windows;
     tocca::platform::linux::LinuxStandardOutput output;
-    tocca::platform::linux::LinuxApplication program(
-        {.windows = windows, .output = output, .hasStatusIcon = [] { return true; }});
+    tocca::platform::linux::LinuxApplication program({.display = argc > 1 ? argv[1] : "here",
+                                                      .launch = {},
+                                                      .windows = windows,
+                                                      .output = output,
+                                                      .hasStatusIcon = [] { return true; }});
     Delegate delegate;
     return program.run(delegate);
 }

@@ -9,6 +9,7 @@ app_module(tocca_linux_x11
         Platform/Linux/X11/PromptWatch
         Platform/Linux/X11/SecretPrompts
         Platform/Linux/X11/SelectionWatch
+        Platform/Linux/X11/StartupNotice
         Platform/Linux/X11/WindowFacts
         Platform/Linux/X11/WindowRequests
         Platform/Linux/X11/XConnection
@@ -103,6 +104,10 @@ qt_add_resources(tocca_linux_desktop tocca_desktop_icons
 include(GNUInstallDirs)
 set(TOCCA_DESKTOP_FILES ${PROJECT_SOURCE_DIR}/Sources/Tocca/Resources/Desktop)
 install(FILES ${TOCCA_DESKTOP_FILES}/org.tocca.Tocca.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+# Where the program is, only the installation knows.
+install(CODE "set(CMAKE_INSTALL_BINDIR \"${CMAKE_INSTALL_BINDIR}\")
+    configure_file(\"${TOCCA_DESKTOP_FILES}/org.tocca.Tocca.service.in\" \"${PROJECT_BINARY_DIR}/org.tocca.Tocca.service\" @ONLY)")
+install(FILES ${PROJECT_BINARY_DIR}/org.tocca.Tocca.service DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
 install(FILES ${TOCCA_DESKTOP_FILES}/org.tocca.Tocca.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${TOCCA_DESKTOP_FILES}/org.tocca.Tocca-symbolic.svg

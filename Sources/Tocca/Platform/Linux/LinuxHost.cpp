@@ -4,10 +4,12 @@
 
 namespace tocca::platform::linux {
 
-LinuxHost::LinuxHost()
+LinuxHost::LinuxHost(const std::string& display, const QByteArray& launch)
     : statusBar_(xDesktop_, {.openStudio = [this] { application_.reopen(); },
                              .quit = [this] { application_.terminate(); }})
-    , application_({.windows = ownWindows_,
+    , application_({.display = display,
+                    .launch = launch,
+                    .windows = ownWindows_,
                     .output = standardOutput_,
                     .hasStatusIcon = [this] { return statusBar_.isShown(); }})
     , mainMenu_(ownWindows_,

@@ -33,7 +33,10 @@
 #include "Platform/Linux/X11/Input/X11TrustQuery.h"
 #include "Platform/Linux/X11/Input/XInputEventTaps.h"
 
+#include <QByteArray>
+
 #include <memory>
+#include <string>
 
 namespace tocca::platform::linux {
 
@@ -43,7 +46,8 @@ namespace tocca::platform::linux {
 /// Lifetime: begins after the application object and outlives everything that uses the host.
 class LinuxHost {
 public:
-    LinuxHost();
+    /// What `chooseDisplay` calls the display, and the desktop the launch, if it does.
+    LinuxHost(const std::string& display, const QByteArray& launch);
 
     /// The services, with `players` among them.
     [[nodiscard]] Host with(AudioPlayers& players) noexcept;

@@ -1,6 +1,7 @@
 #include "Platform/Linux/Freedesktop/ApplicationService.h"
 
 #include "Platform/Linux/System/ApplicationId.h"
+#include "Platform/Linux/X11/StartupNotice.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -19,8 +20,9 @@ const auto kToken =
 
 } // namespace
 
-ApplicationService::ApplicationService(QDBusConnection bus, Commands commands)
+ApplicationService::ApplicationService(QDBusConnection bus, const std::string& display, Commands commands)
     : bus_(std::move(bus))
+    , name_(kName + QStringLiteral(".on_") + QString::fromStdString(display))
     , commands_(std::move(commands))
 {}
 
@@ -28,30 +30,31 @@ ApplicationService::~ApplicationService()
 {
     bus_.unregisterObject(kPath);
     bus_.unregisterService(kName);
+    bus_.unregisterService(name_);
 }
 
-bool ApplicationService::claim()
+ApplicationService::Claim ApplicationService::claim(const QByteArray& launch)
 {
     if (!bus_.isConnected()) {
-        return true;
+        return Claim::first;
     }
     bus_.registerObject(kPath, this, QDBusConnection::ExportAllSlots); // before anybody can find the name
-    const auto answer = bus_.interface()->registerService(kName, QDBusConnectionInterface::DontQueueService,
-                                                          QDBusConnectionInterface::DontAllowReplacement);
-    if (!answer.isValid() || answer.value() == QDBusConnectionInterface::ServiceRegistered) {
-        return true;
+    using Bus = QDBusConnectionInterface;
+    const auto answer =
+        bus_.interface()->registerService(name_, Bus::DontQueueService, Bus::DontAllowReplacement);
+    if (!answer.isValid() || answer.value() == Bus::ServiceRegistered) {
+        // Launchers know this one.
+        bus_.interface()->registerService(kName, Bus::QueueService, Bus::DontAllowReplacement);
+        return Claim::first;
     }
     constexpr int kDeadline = 5000; // milliseconds
-    auto call = QDBusMessage::createMethodCall(kName, kPath, kInterface, QStringLiteral("Activate"));
+    auto call = QDBusMessage::createMethodCall(name_, kPath, kInterface, QStringLiteral("Activate"));
     QVariantMap platformData;
-    for (const char* const variable : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
-        if (const QByteArray token = qgetenv(variable); !token.isEmpty()) {
-            platformData.insert(kToken, QString::fromUtf8(token));
-            break;
-        }
+    if (!launch.isEmpty()) {
+        platformData.insert(kToken, QString::fromUtf8(launch));
     }
-    bus_.call(call << platformData, QDBus::Block, kDeadline);
-    return false;
+    const QDBusMessage reply = bus_.call(call << platformData, QDBus::Block, kDeadline);
+    return reply.type() == QDBusMessage::ReplyMessage ? Claim::told : Claim::unanswered;
 }
 
 void ApplicationService::Activate(const QVariantMap& platformData)
@@ -77,8 +80,13 @@ void ApplicationService::ActivateAction(const QString& name, const QVariantList&
 
 void ApplicationService::adopt(const QVariantMap& platformData)
 {
-    if (const QString token = platformData.value(kToken).toString(); !token.isEmpty()) {
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // where Qt looks for it
+    QByteArray token = platformData.value(kToken).toString().toUtf8();
+    if (token.isEmpty()) {
+        token = platformData.value(QStringLiteral("desktop-startup-id")).toString().toUtf8();
+    }
+    if (!token.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", token); // where Qt looks for it
+        completeStartup(token.toStdString());
     }
 }
 

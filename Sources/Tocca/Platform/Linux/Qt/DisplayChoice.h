@@ -1,12 +1,17 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 namespace tocca::platform::linux {
 
-/// Chooses where Qt shows the windows, unless QT_QPA_PLATFORM says so already.
+/// Chooses where Qt shows the windows, unless QT_QPA_PLATFORM says so already, and returns that display's name in letters, digits and
+/// underscores: two names of the same display are the same.
 ///
 /// An X server that answers comes first, XWayland included, because a Wayland compositor lets no program place a popover or an overlay.
-/// Then comes Wayland. Without a display the program runs all the same, and nobody sees its windows.
+/// Then comes Wayland.
 /// Threads: main. Order: before the application object.
-void chooseDisplay();
+/// Errors: nothing where no display answers.
+[[nodiscard]] std::optional<std::string> chooseDisplay();
 
 } // namespace tocca::platform::linux

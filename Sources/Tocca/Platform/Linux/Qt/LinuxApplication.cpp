@@ -5,6 +5,7 @@
 #include "Platform/Linux/Qt/Windows/ContentWindow.h"
 #include "Platform/Linux/Qt/Windows/WindowActivation.h"
 #include "Platform/Linux/System/ApplicationId.h"
+#include "Platform/Linux/X11/StartupNotice.h"
 
 #include <QDBusConnection>
 #include <QGuiApplication>
@@ -21,27 +22,43 @@ LinuxApplication::LinuxApplication(Surroundings surroundings)
     QGuiApplication::setWindowIcon(applicationIcon());
 }
 
-bool LinuxApplication::isFirstInstance()
+std::optional<int> LinuxApplication::statusOfSecondInstance()
 {
-    if (!isFirst_) {
+    using Claim = ApplicationService::Claim;
+    if (!claim_) {
         service_ = std::make_unique<ApplicationService>(
-            QDBusConnection::sessionBus(),
+            QDBusConnection::sessionBus(), surroundings_.display,
             ApplicationService::Commands{.activate = [this] { reopen(); }, .quit = [this] { terminate(); }});
-        isFirst_ = service_->claim();
+        claim_ = service_->claim(surroundings_.launch);
+        if (*claim_ != Claim::first) {
+            completeStartup(surroundings_.launch.toStdString());
+        }
+        if (*claim_ == Claim::unanswered) {
+            surroundings_.output.printLine(
+                "Tocca runs already, but does not answer. End that one, then start it again.");
+        }
     }
-    return *isFirst_;
+    switch (*claim_) {
+    case Claim::told:
+        return 0;
+    case Claim::unanswered:
+        return 1;
+    case Claim::first:
+        break;
+    }
+    return std::nullopt;
 }
 
 int LinuxApplication::run(ApplicationDelegate& delegate)
 {
-    if (!isFirstInstance()) {
-        return 0;
+    if (const auto status = statusOfSecondInstance()) {
+        return *status;
     }
     QGuiApplication::setQuitOnLastWindowClosed(delegate.applicationShouldTerminateAfterLastWindowClosed());
-    delegate_ = &delegate;
     QObject context; // a call that is still waiting when the loop ends is dropped with it
     const auto launched = [this, &delegate] {
         delegate.applicationDidFinishLaunching();
+        delegate_ = &delegate;
         if (std::exchange(hasWishToReopen_, false)) {
             reopen();
         }
