@@ -28,9 +28,17 @@ public:
     {
         options = qdbus_cast<QVariantMap>(message.arguments().value(2));
         QString sender = message.service().mid(1);
+        ++requests;
+        if (isStuck) {
+            return true; // it never answers
+        }
         sender.replace(QLatin1Char('.'), QLatin1Char('_'));
         const QString handle = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
                                    .arg(sender, options[QStringLiteral("handle_token")].toString());
+        if (isUndecided) {
+            connection.send(message.createReply(QVariant::fromValue(QDBusObjectPath(handle))));
+            return true;
+        }
         // The answer before the reply, as a portal may.
         connection.send(
             QDBusMessage::createSignal(handle, QStringLiteral("org.freedesktop.portal.Request"),
@@ -42,6 +50,9 @@ public:
     }
 
     uint response = 0;
+    bool isStuck = false;
+    bool isUndecided = false;
+    int requests = 0;
     QVariantMap options;
 };
 
@@ -64,6 +75,18 @@ protected:
         return chosen;
     }
 
+    void pressEscapeOnceThereIsADialog()
+    {
+        whileWaiting_ = [this] {
+            const QWindow* const focus = QGuiApplication::focusWindow();
+            if (!hasPressed_ && focus != nullptr && focus->isExposed()) {
+                hasPressed_ = true;
+                outputOf({"xdotool", "key", "Escape"});
+            }
+        };
+    }
+
+    bool hasPressed_ = false;
     std::function<void()> whileWaiting_ = [] {};
     OwnWindows windows_;
     LinuxOpenPanels panels_{windows_};
@@ -83,18 +106,42 @@ TEST_F(OpenPanelsDesktop, AsksTheDesktopsPortal)
     QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
 }
 
+TEST_F(OpenPanelsDesktop, OutlivesAPortalThatHangsOrGoesAway)
+{
+    auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal"));
+    Portal portal;
+    ASSERT_TRUE(bus.registerVirtualObject(QStringLiteral("/org/freedesktop/portal/desktop"), &portal));
+    ASSERT_TRUE(bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+
+    portal.isStuck = true;
+    int given = 0;
+    panels_.chooseDirectory("Import", [&](const auto& directory) { given += directory ? 100 : 1; });
+    ASSERT_TRUE(runUntil([&] { return portal.requests == 1; }));
+    pressEscapeOnceThereIsADialog();
+    EXPECT_EQ(choose(), std::nullopt) << "the second time, the dialog is Qt's own";
+    EXPECT_EQ(given, 1) << "whoever asked first is told that nothing was chosen";
+
+    portal.isStuck = false;
+    portal.isUndecided = true;
+    const auto pressEscape = whileWaiting_;
+    bool isGone = false;
+    whileWaiting_ = [&] {
+        if (!isGone && portal.requests > 1) {
+            isGone = bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
+        }
+        pressEscape();
+    };
+    hasPressed_ = false;
+    EXPECT_EQ(choose(), std::nullopt);
+    EXPECT_TRUE(hasPressed_) << "Qt's dialog takes the place of the one that is gone";
+    QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+}
+
 TEST_F(OpenPanelsDesktop, ShowsQtsOwnDialogWithoutAPortal)
 {
-    bool hasPressed = false;
-    whileWaiting_ = [&] {
-        const QWindow* const focus = QGuiApplication::focusWindow();
-        if (!hasPressed && focus != nullptr && focus->isExposed()) {
-            hasPressed = true;
-            outputOf({"xdotool", "key", "Escape"});
-        }
-    };
+    pressEscapeOnceThereIsADialog();
     EXPECT_EQ(choose(), std::nullopt);
-    EXPECT_TRUE(hasPressed);
+    EXPECT_TRUE(hasPressed_);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
 #include <QStringList>
 #include <QUrl>
 
@@ -24,10 +25,18 @@ FolderPortal::FolderPortal(QDBusConnection bus, Observers observers)
     , observers_(std::move(observers))
 {}
 
+FolderPortal::~FolderPortal()
+{
+    if (isTaken_ && observers_.chosen) { // takes the dialog away
+        bus_.send(QDBusMessage::createMethodCall(kService, handle_, kRequest, QStringLiteral("Close")));
+    }
+}
+
 void FolderPortal::ask(const QString& prompt, const QString& parent)
 {
     if (!bus_.isConnected()) {
-        QMetaObject::invokeMethod(this, observers_.unavailable, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { fail(); }, Qt::QueuedConnection);
         return;
     }
     // The response may come before the reply that tells where it comes from, so that place is worked out here.
@@ -35,8 +44,11 @@ void FolderPortal::ask(const QString& prompt, const QString& parent)
     const QString token = QStringLiteral("tocca%1").arg(++count);
     QString sender = bus_.baseService().mid(1);
     sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    const QString handle = QStringLiteral("%1/request/%2/%3").arg(kPath, sender, token);
-    bus_.connect(kService, handle, kRequest, QStringLiteral("Response"), this,
+    handle_ = QStringLiteral("%1/request/%2/%3").arg(kPath, sender, token);
+    auto* const owner =
+        new QDBusServiceWatcher(kService, bus_, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(owner, &QDBusServiceWatcher::serviceUnregistered, this, [this] { fail(); });
+    bus_.connect(kService, handle_, kRequest, QStringLiteral("Response"), this,
                  SLOT(answered(uint, QVariantMap)));
     auto call = QDBusMessage::createMethodCall(
         kService, kPath, QStringLiteral("org.freedesktop.portal.FileChooser"), QStringLiteral("OpenFile"));
@@ -45,8 +57,9 @@ void FolderPortal::ask(const QString& prompt, const QString& parent)
                               {QStringLiteral("directory"), true},
                               {QStringLiteral("modal"), true}};
     whenAnswered(bus_.asyncCall(call << parent << prompt << options), *this, [this](const auto& reply) {
-        if (reply.isError()) {
-            observers_.unavailable();
+        isTaken_ = !reply.isError();
+        if (!isTaken_) {
+            fail();
         }
     });
 }
@@ -56,11 +69,22 @@ void FolderPortal::answered(uint response, const QVariantMap& results)
     constexpr uint kChosen = 0;
     const QStringList uris = results.value(QStringLiteral("uris")).toStringList();
     const QString path = uris.isEmpty() ? QString() : QUrl(uris.first()).toLocalFile();
-    if (response != kChosen || path.isEmpty()) {
-        observers_.chosen(std::nullopt);
+    const auto chosen = std::exchange(observers_, {}).chosen;
+    if (!chosen) {
         return;
     }
-    observers_.chosen(std::filesystem::path(path.toStdString()));
+    if (response != kChosen || path.isEmpty()) {
+        chosen(std::nullopt);
+        return;
+    }
+    chosen(std::filesystem::path(path.toStdString()));
+}
+
+void FolderPortal::fail()
+{
+    if (const auto unavailable = std::exchange(observers_, {}).unavailable) {
+        unavailable();
+    }
 }
 
 } // namespace tocca::platform::linux

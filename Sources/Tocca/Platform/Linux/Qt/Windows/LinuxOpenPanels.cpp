@@ -25,14 +25,25 @@ QString handleOf(const QWindow* window)
 
 void LinuxOpenPanels::chooseDirectory(const std::string& prompt, Completion completion)
 {
-    if (pending_) {
-        if (dialog_) {
-            dialog_->bringToFront();
-        }
+    if (dialog_) {
+        dialog_->bringToFront();
         return;
     }
-    pending_ = std::move(completion);
+    const bool isPortalStuck = portal_ != nullptr && !portal_->isTaken();
+    portal_.reset();
+    if (const auto givenUp = std::exchange(pending_, std::move(completion))) {
+        givenUp(std::nullopt);
+    }
     windows_.setDialog(true);
+    if (isPortalStuck) {
+        showOwnDialog(prompt);
+    } else {
+        askPortal(prompt);
+    }
+}
+
+void LinuxOpenPanels::askPortal(const std::string& prompt)
+{
     portal_ = std::make_unique<FolderPortal>(
         QDBusConnection::sessionBus(),
         FolderPortal::Observers{.chosen = [this](auto directory) { finish(directory); },
