@@ -27,7 +27,9 @@ XWindow::XWindow(const Traits& traits)
     window_ = xcb_generate_id(connection);
     constexpr std::uint16_t kSide = 120;
     const std::array<std::uint32_t, 2> values{screen->white_pixel, traits.overridesRedirect ? 1U : 0U};
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window_, root_, 0, 0, kSide, kSide, 0,
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window_, root_, 0, 0,
+                      traits.coversScreen ? screen->width_in_pixels : kSide,
+                      traits.coversScreen ? screen->height_in_pixels : kSide, 0,
                       XCB_WINDOW_CLASS_INPUT_OUTPUT, screen->root_visual,
                       XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values.data());
     const std::string classes = traits.instance + '\0' + traits.className + '\0';
@@ -85,6 +87,14 @@ void XWindow::publishAs(const char* property)
 {
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(property), XCB_ATOM_WINDOW, 32,
                         1, &window_);
+    synchronize();
+}
+
+void XWindow::publishNoneAs(const char* property)
+{
+    constexpr xcb_window_t kNone = XCB_WINDOW_NONE;
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root_, atom(property), XCB_ATOM_WINDOW, 32,
+                        1, &kNone);
     synchronize();
 }
 

@@ -18,6 +18,7 @@ public:
         std::string instance;           ///< of WM_CLASS
         std::string className;          ///< of WM_CLASS
         bool overridesRedirect = false; ///< keeps window managers away
+        bool coversScreen = false;      ///< as large as the screen
     };
 
     /// Makes a window and shows it.
@@ -38,6 +39,9 @@ public:
 
     /// Names the window in a property of the root window, as window managers do: "_NET_ACTIVE_WINDOW".
     void publishAs(const char* property);
+
+    /// Says in such a property that it is no window.
+    void publishNoneAs(const char* property);
 
     /// Takes such a property away.
     void withdraw(const char* property);

@@ -1,5 +1,6 @@
 #include "Platform/Linux/Freedesktop/LoginSessionWatch.h"
 #include "Platform/Linux/Freedesktop/ScreenSaverWatch.h"
+#include "Platform/Linux/Freedesktop/ShellPrompt.h"
 
 #include "Instruments/Process.h"
 #include "Linux/Qt/QtMachine.h"
@@ -128,6 +129,20 @@ TEST_F(SessionLockTest, FollowsAScreenSaverThatComesAndGoes)
     const ScreenSaverWatch late(connect(), kSaver, [this](bool isActive) { isLocked_ = isActive; });
     service_.answers["GetActive"] = true;
     EXPECT_TRUE(becomes(true)) << "found active";
+}
+
+TEST_F(SessionLockTest, TakesTheFocusOfTheShellForAPromptUnlessItIsTheOverviews)
+{
+    ShellPrompt prompt(connect(), machine_.timers(), [this](bool isPrompting) { report(isPrompting); });
+    prompt.setFocused(true);
+    EXPECT_TRUE(isLocked_) << "nothing is let through before the shell has answered";
+    service_.answers["Get"] = QVariant::fromValue(QDBusVariant(true));
+    const QDBusConnection shell = offer("org.gnome.Shell");
+    EXPECT_TRUE(becomes(false)) << "the overview is open";
+    service_.answers["Get"] = QVariant::fromValue(QDBusVariant(false));
+    EXPECT_TRUE(becomes(true)) << "it closed, and the shell did not give the focus away";
+    prompt.setFocused(false);
+    EXPECT_FALSE(isLocked_);
 }
 
 TEST_F(SessionLockTest, BelievesTheLoginManagersHint)

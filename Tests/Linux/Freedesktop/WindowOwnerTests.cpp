@@ -29,11 +29,8 @@ protected:
     std::string known(const WindowOwner& owner)
     {
         const auto application = applicationOf(owner, entries_);
-        if (!application) {
-            return "nobody";
-        }
-        const auto kind = application->kind;
-        return application->bundleIdentifier.value_or("?") + " (" + application->localizedName.value_or("?") +
+        const auto kind = application.kind;
+        return application.bundleIdentifier.value_or("?") + " (" + application.localizedName.value_or("?") +
                ')' +
                (kind == ApplicationKind::call            ? " for calls"
                 : kind == ApplicationKind::passwordStore ? " for passwords"
@@ -77,7 +74,7 @@ TEST_F(WindowOwnerTest, IsFoundByWhateverTellsMost)
         {"executable alone", {{}, {"main", "Window"}, "teams-for-linux"}, "Window (Window) for calls"},
         {"unknown class", {{}, {"xterm", "XTerm"}, "xterm"}, "XTerm (XTerm)"},
         {"unknown id", {{"org.example.Thing"}, {"thing", "Thing"}, ""}, "org.example.Thing (Thing)"},
-        {"nothing", {{"", ""}, {"", ""}, ""}, "nobody"},
+        {"nothing", {{"", ""}, {"", ""}, ""}, "? (?)"},
     };
 
     for (const auto& row : kRows) {

@@ -47,12 +47,12 @@ protected:
 
     void start()
     {
-        workspace_ = std::make_unique<LinuxWorkspace>(secureInput_, machine_.timers());
+        workspace_ = std::make_unique<LinuxWorkspace>(secureInput_, machine_.timers(), [] {});
         activations_ = workspace_->onActivation([this](const auto& application) {
             EXPECT_EQ(application, workspace_->frontmostApplication());
             heard_.push_back(application ? application->bundleIdentifier.value_or("?") + " " +
                                                application->localizedName.value_or("?")
-                                         : "nobody");
+                                         : "untold");
         });
         EXPECT_EQ(workspace_->frontmostApplication(), std::nullopt);
     }
@@ -82,13 +82,15 @@ TEST_F(WorkspaceTest, TellsWhoComesToTheFrontAndWhatTheyAreCalled)
     another.publishAs(kActive); // another window of the program in front
     editor.publishAs(kActive);
     EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund", "Editor Editor"}));
+    editor.publishNoneAs(kActive);
+    EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund", "Editor Editor", "? ?"}));
     editor.withdraw(kActive);
-    EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund", "Editor Editor", "nobody"}));
+    EXPECT_TRUE(hears({"org.keepassxc.KeePassXC Schlüsselbund", "Editor Editor", "? ?", "untold"}));
 
     activations_.reset();
     vault.publishAs(kActive);
     EXPECT_TRUE(machine_.runUntil([this] { return workspace_->frontmostApplication().has_value(); }));
-    EXPECT_EQ(heard_.size(), 3U) << "nobody listens any more";
+    EXPECT_EQ(heard_.size(), 4U) << "nobody listens any more";
 }
 
 TEST_F(WorkspaceTest, ComesBackWithTheServer)
@@ -100,12 +102,12 @@ TEST_F(WorkspaceTest, ComesBackWithTheServer)
     EXPECT_TRUE(secureInput_.isActive());
     server_.kill();
     prompt.reset();
-    EXPECT_TRUE(hears({"Pinentry Pinentry", "nobody"}));
+    EXPECT_TRUE(hears({"Pinentry Pinentry", "untold"}));
     EXPECT_FALSE(secureInput_.isActive()) << "what is not seen any more is not waited for";
     server_.start();
     XWindow editor({.instance = "editor", .className = "Editor"});
     editor.publishAs(kActive);
-    EXPECT_TRUE(hears({"Pinentry Pinentry", "nobody", "Editor Editor"}));
+    EXPECT_TRUE(hears({"Pinentry Pinentry", "untold", "Editor Editor"}));
 }
 
 TEST_F(WorkspaceTest, KnowsNobodyInAWaylandSession)
@@ -123,7 +125,7 @@ TEST_F(WorkspaceTest, KnowsNobodyInAWaylandSession)
     {
         ::unsetenv("WAYLAND_DISPLAY");
         SecureInput ignored;
-        const LinuxWorkspace witness(ignored, machine_.timers());
+        const LinuxWorkspace witness(ignored, machine_.timers(), [] {});
         EXPECT_TRUE(machine_.runUntil([&] { return witness.frontmostApplication().has_value(); }));
     }
     EXPECT_EQ(workspace_->frontmostApplication(), std::nullopt);

@@ -45,35 +45,6 @@ TEST(QtLoop, ServesQueueAndTimersInsideALoopThatATaskRuns)
     EXPECT_EQ(order, "r(at)");
 }
 
-TEST(LinuxWorkspace, HandsAUrlToTheDesktopsOpenerAsOneArgument)
-{
-    const TemporaryDirectory directory;
-    const auto opener = directory.path() / "xdg-open";
-    const auto record = directory.path() / "record";
-    TemporaryDirectory::write(opener, "#!/bin/sh\nprintf '%s|' \"$#\" \"$@\" > " + record.string() +
-                                          ".part\n/bin/mv " + record.string() + ".part " + record.string() +
-                                          "\n");
-    std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
-    const std::string path = std::getenv("PATH");
-    ::setenv("PATH", directory.path().c_str(), 1);
-
-    QtMachine machine;
-    SecureInput secureInput;
-    LinuxWorkspace workspace(secureInput, machine.timers());
-    EXPECT_TRUE(workspace.openUrl("https://example.org/a?b=$(id)&c=%20;d"));
-    ASSERT_TRUE(machine.runUntil([&] { return std::filesystem::exists(record); }));
-    std::ifstream input(record);
-    std::string text;
-    std::getline(input, text);
-    EXPECT_EQ(text, "1|https://example.org/a?b=$(id)&c=%20;d|");
-
-    EXPECT_FALSE(workspace.openUrl("--help"));
-    EXPECT_FALSE(workspace.openUrl(""));
-    std::filesystem::remove(opener);
-    EXPECT_FALSE(workspace.openUrl("https://example.org/")) << "there is nothing to open it with";
-    ::setenv("PATH", path.c_str(), 1);
-}
-
 } // namespace
 
 } // namespace linux

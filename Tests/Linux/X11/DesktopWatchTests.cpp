@@ -82,7 +82,8 @@ protected:
     std::unique_ptr<DesktopWatch> open()
     {
         return DesktopWatch::open({.frontChanged = [this](const auto& facts) { front_ = facts; },
-                                   .promptChanged = [this](bool is) { secure_.set(0, is); }});
+                                   .promptChanged = [this](bool is) { secure_.set(0, is); },
+                                   .shellFocused = [this](bool is) { isShellFocused_ = is; }});
     }
 
     XServer server_;
@@ -91,6 +92,7 @@ protected:
     std::optional<WindowFacts> front_;
     std::unique_ptr<DesktopWatch> watch_ = open();
     bool isAlive_ = true;
+    bool isShellFocused_ = false;
 };
 
 TEST_F(DesktopWatchTest, TellsWhatTheWindowInFrontSaysOfItself)
@@ -111,7 +113,9 @@ TEST_F(DesktopWatchTest, TellsWhatTheWindowInFrontSaysOfItself)
         EXPECT_EQ(front_->kdeDesktopFile, "org.example.viewer");
     }
     editor_.withdraw(kActive);
-    EXPECT_TRUE(serveUntil([this] { return !front_; }));
+    EXPECT_TRUE(serveUntil([this] { return !front_; })) << "it is not said any more";
+    editor_.publishNoneAs(kActive);
+    EXPECT_TRUE(serveUntil([this] { return front_ && front_->process == 0; })) << "nobody is";
 }
 
 TEST_F(DesktopWatchTest, IsSecureWhileAPromptHasTheFocus)
@@ -174,6 +178,41 @@ TEST_F(DesktopWatchTest, IsSecureWhileTheKeyboardIsGrabbedAndAPromptIsOpen)
     EXPECT_TRUE(becomesSecure());
     prompt.ungrabKeyboard();
     EXPECT_TRUE(becomesPlain());
+}
+
+TEST_F(DesktopWatchTest, IsSecureWhileWhoeverCoversTheScreenHasGrabbedTheKeyboard)
+{
+    editor_.takeFocus();
+    XWindow menu({.instance = "menu", .className = "Menu", .overridesRedirect = true});
+    XWindow player({.instance = "player", .className = "Player", .coversScreen = true});
+    editor_.publishAs(kActive);
+    ASSERT_TRUE(showsInFront("Editor"));
+    ASSERT_TRUE(menu.grabKeyboard());
+    XWindow locker(
+        {.instance = "lock", .className = "Lock", .overridesRedirect = true, .coversScreen = true});
+    EXPECT_TRUE(becomesSecure());
+    menu.ungrabKeyboard();
+    EXPECT_TRUE(becomesPlain()) << "a picture without the keyboard";
+    ASSERT_TRUE(locker.grabKeyboard());
+    EXPECT_TRUE(becomesSecure());
+    locker.hide();
+    EXPECT_TRUE(becomesPlain()) << "neither a small window of that kind nor a large one of another locks";
+}
+
+TEST_F(DesktopWatchTest, TellsWhenTheShellItselfHasTheFocus)
+{
+    editor_.takeFocus();
+    {
+        XWindow shell({.instance = "gnome-shell", .className = "Gnome-shell"});
+        shell.takeFocus();
+        EXPECT_TRUE(serveUntil([this] { return isShellFocused_; }));
+        editor_.takeFocus();
+        EXPECT_TRUE(serveUntil([this] { return !isShellFocused_; }));
+        shell.takeFocus();
+        EXPECT_TRUE(serveUntil([this] { return isShellFocused_; }));
+    }
+    EXPECT_TRUE(serveUntil([this] { return !isShellFocused_; }));
+    EXPECT_FALSE(secure_.isActive());
 }
 
 TEST_F(DesktopWatchTest, NeverWaitsForAServerThatHangs)

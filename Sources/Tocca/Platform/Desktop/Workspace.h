@@ -12,10 +12,10 @@ namespace tocca::platform {
 /// What a program is for, as far as that matters here and the desktop can tell.
 enum class ApplicationKind : std::uint8_t { other, passwordStore, call };
 
-/// A program with windows, as the desktop knows it.
+/// A program with windows, as the desktop knows it; one of which nothing is known stands for nobody, too.
 struct RunningApplication {
     std::optional<std::string>
-        bundleIdentifier; ///< as in Platform/README.md; none when the program is not known
+        bundleIdentifier{}; ///< as in Platform/README.md; none when the program is not known
     std::optional<std::string> localizedName{}; ///< the program's own name, for people
     ApplicationKind kind = ApplicationKind::other;
 
@@ -25,7 +25,7 @@ struct RunningApplication {
 /// The desktop around the program. Threads: main.
 class Workspace {
 public:
-    /// Called with the application that came to the front, or nothing when the desktop cannot tell which.
+    /// Called with the application that came to the front, which may be nobody; or with nothing when the desktop cannot tell.
     using ActivationHandler = std::function<void(const std::optional<RunningApplication>&)>;
 
     virtual ~Workspace() = default;

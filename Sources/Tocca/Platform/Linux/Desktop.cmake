@@ -44,6 +44,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Freedesktop/RealtimeKit
         Platform/Linux/Freedesktop/ScreenSaverWatch
         Platform/Linux/Freedesktop/SessionLock
+        Platform/Linux/Freedesktop/ShellPrompt
         Platform/Linux/Qt/ApplicationIcon
         Platform/Linux/Qt/DisplayChoice
         Platform/Linux/Qt/LinuxApplication
@@ -66,6 +67,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Qt/Windows/LinuxWindows
         Platform/Linux/Qt/Windows/OwnWindows
         Platform/Linux/Qt/Windows/PopoverWindow
+        Platform/Linux/Qt/Windows/NoticeWindow
         Platform/Linux/Qt/Windows/WindowActivation
         Platform/Linux/Tray/DBusMenu
         Platform/Linux/Tray/DBusMenuTypes
@@ -86,8 +88,8 @@ app_module(tocca_linux_desktop
 app_precompile(tocca_linux_desktop
     <functional> <memory> <optional> <string> <vector>
     <QDBusConnection> <QDBusPendingCallWatcher> <QGuiApplication> <QObject> <QQuickWindow> <QTimer>)
-# The compiler's own macros would make a number of the namespace `linux`.
-# Each source may call the bus name, path and interface that it speaks to by the same words.
+# The compiler's own macros would make a number of the namespace `linux`. Each source may call the bus name, path and interface that it
+# speaks to by the same words.
 set_target_properties(tocca_linux_desktop PROPERTIES UNITY_BUILD OFF AUTOMOC ON AUTOMOC_COMPILER_PREDEFINES OFF)
 target_compile_definitions(tocca_linux_desktop
     PUBLIC QT_NO_KEYWORDS
@@ -95,7 +97,7 @@ target_compile_definitions(tocca_linux_desktop
 qt_add_resources(tocca_linux_desktop tocca_desktop_resources
     PREFIX /org.tocca
     BASE Platform/Linux/Qt/Windows
-    FILES Platform/Linux/Qt/Windows/FolderDialog.qml)
+    FILES Platform/Linux/Qt/Windows/FolderDialog.qml Platform/Linux/Qt/Windows/NoticeWindow.qml)
 qt_add_resources(tocca_linux_desktop tocca_desktop_icons
     PREFIX /org.tocca
     BASE Resources/Desktop

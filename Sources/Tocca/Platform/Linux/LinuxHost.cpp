@@ -43,4 +43,13 @@ void LinuxHost::showAbout()
     about_->showInFront();
 }
 
+void LinuxHost::showSettings()
+{
+    if (!settings_) {
+        settings_ = std::make_unique<NoticeWindow>();
+    }
+    settings_->show(QStringLiteral("Hearing the keyboard"),
+                    QString::fromStdString(trustQuery_.explanation()));
+}
+
 } // namespace tocca::platform::linux

@@ -16,6 +16,7 @@
 #include "Platform/Linux/Qt/Windows/LinuxPanels.h"
 #include "Platform/Linux/Qt/Windows/LinuxPopovers.h"
 #include "Platform/Linux/Qt/Windows/LinuxWindows.h"
+#include "Platform/Linux/Qt/Windows/NoticeWindow.h"
 #include "Platform/Linux/System/Files/LinuxDirectories.h"
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
@@ -66,6 +67,7 @@ public:
 
 private:
     void showAbout();
+    void showSettings();
 
     LinuxTimers timers_;
     LinuxMainQueue mainQueue_{timers_};
@@ -81,7 +83,7 @@ private:
     X11TrustQuery trustQuery_{standardOutput_};
     LinuxAudioDevices audioDevices_;
     LinuxHaptics haptics_;
-    LinuxWorkspace workspace_{secureInput_, timers_};
+    LinuxWorkspace workspace_{secureInput_, timers_, [this] { showSettings(); }};
     LinuxLoginItem loginItem_;
     LinuxDirectories directories_;
     LinuxFiles files_;
@@ -99,7 +101,8 @@ private:
     LinuxApplication application_;
     LinuxMainMenu mainMenu_;
     LinuxOpenPanels openPanels_{ownWindows_};
-    std::unique_ptr<AboutWindow> about_; // from its first showing on
+    std::unique_ptr<AboutWindow> about_;     // from its first showing on
+    std::unique_ptr<NoticeWindow> settings_; // likewise
 };
 
 } // namespace tocca::platform::linux

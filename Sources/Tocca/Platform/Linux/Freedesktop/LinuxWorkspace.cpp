@@ -1,12 +1,14 @@
 #include "Platform/Linux/Freedesktop/LinuxWorkspace.h"
 
 #include "Platform/Linux/Freedesktop/Applications/WindowOwner.h"
+#include "Platform/Linux/Freedesktop/DBusReply.h"
+#include "Platform/Linux/Freedesktop/DesktopNotice.h"
 #include "Platform/Linux/System/ProcessNames.h"
 #include "Platform/Linux/System/WaylandSession.h"
 
-#include <QProcess>
-#include <QStandardPaths>
-#include <QUrl>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QStringList>
 
 #include <utility>
 
@@ -26,9 +28,12 @@ WindowOwner ownerOf(const WindowFacts& window)
 
 } // namespace
 
-LinuxWorkspace::LinuxWorkspace(SecureInput& secureInput, Timers& timers)
+LinuxWorkspace::LinuxWorkspace(SecureInput& secureInput, Timers& timers, std::function<void()> showSettings)
     : secureInput_(secureInput)
     , timers_(timers)
+    , showSettings_(std::move(showSettings))
+    , shellPrompt_(QDBusConnection::sessionBus(), timers,
+                   [this](bool isPrompting) { secureInput_.set(SecureInput::kShell, isPrompting); })
 {
     if (!isWaylandSession()) {
         connect();
@@ -40,21 +45,30 @@ LinuxWorkspace::~LinuxWorkspace() = default;
 bool LinuxWorkspace::openUrl(const std::string& url)
 {
     const QUrl parsed(QString::fromStdString(url), QUrl::StrictMode);
-    // What begins with a scheme cannot be mistaken for an option.
-    if (!parsed.isValid() || parsed.scheme().isEmpty()) {
+    if (parsed.scheme() == QLatin1String("x-apple.systempreferences")) {
+        showSettings_();
+        return true;
+    }
+    if (!parsed.isLocalFile()) {
         return false;
     }
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
-    if (program.isEmpty()) {
-        return false;
-    }
-    QProcess opener;
-    opener.setProgram(program);
-    opener.setArguments({parsed.toString(QUrl::FullyEncoded)});
-    // What the opened program prints must not appear among this program's lines.
-    opener.setStandardOutputFile(QProcess::nullDevice());
-    opener.setStandardErrorFile(QProcess::nullDevice());
-    return opener.startDetached();
+    showFolder(parsed);
+    return true;
+}
+
+void LinuxWorkspace::showFolder(const QUrl& folder)
+{
+    const auto kService = QStringLiteral("org.freedesktop.FileManager1");
+    auto call = QDBusMessage::createMethodCall(kService, QStringLiteral("/org/freedesktop/FileManager1"),
+                                               kService, QStringLiteral("ShowFolders"));
+    call << QStringList(folder.toString(QUrl::FullyEncoded)) << QString();
+    const auto bus = QDBusConnection::sessionBus();
+    whenAnswered(bus.asyncCall(call), replies_, [bus, folder](const auto& reply) {
+        if (reply.isError()) {
+            sendDesktopNotice(
+                bus, QStringLiteral("No file manager answers. The folder is %1").arg(folder.toLocalFile()));
+        }
+    });
 }
 
 Subscription LinuxWorkspace::onActivation(ActivationHandler handler)
@@ -66,7 +80,8 @@ void LinuxWorkspace::connect()
 {
     watch_ = DesktopWatch::open(
         {.frontChanged = [this](const std::optional<WindowFacts>& window) { setFront(window); },
-         .promptChanged = [this](bool isPrompting) { secureInput_.set(SecureInput::kPrompt, isPrompting); }});
+         .promptChanged = [this](bool isPrompting) { secureInput_.set(SecureInput::kPrompt, isPrompting); },
+         .shellFocused = [this](bool isFocused) { shellPrompt_.setFocused(isFocused); }});
     if (!watch_) {
         retry_ = timers_.scheduleOnce(kRetry, [this] { connect(); });
         return;
@@ -89,13 +104,14 @@ void LinuxWorkspace::lose()
     notifier_.reset();
     watch_.reset();
     secureInput_.set(SecureInput::kPrompt, false);
+    shellPrompt_.setFocused(false);
     setFront(std::nullopt);
     retry_ = timers_.scheduleOnce(kRetry, [this] { connect(); });
 }
 
 void LinuxWorkspace::setFront(const std::optional<WindowFacts>& window)
 {
-    auto application = window ? applicationOf(ownerOf(*window), entries_) : std::nullopt;
+    auto application = window ? std::optional(applicationOf(ownerOf(*window), entries_)) : std::nullopt;
     if (application == frontmost_) {
         return;
     }

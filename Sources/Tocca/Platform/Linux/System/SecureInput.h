@@ -13,8 +13,9 @@ class SecureInput {
 public:
     /// Each is set and cleared by one observer.
     enum Reason : unsigned {
-        kPrompt,           ///< a window of a lock screen or a password prompt has the keyboard
-        kSessionLock,      ///< the login manager says that the session is locked
+        kPrompt,      ///< a window of a lock screen or a password prompt has the keyboard
+        kSessionLock, ///< the login manager says that the session is locked
+        kShell, ///< the desktop's shell itself has the keyboard, for a password as far as it can be known
         kFirstScreenSaver, ///< the first of several screen saver services is active; each has the next number
         kReasons = 32
     };

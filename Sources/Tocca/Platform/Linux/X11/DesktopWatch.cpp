@@ -19,8 +19,9 @@ DesktopWatch::DesktopWatch(XConnection connection, Observers observers)
     : connection_(std::move(connection))
     , questions_(connection_.get())
     , inquiry_(connection_.get(), questions_)
-    , prompts_(connection_.get(), connection_.root(), questions_, inquiry_,
-               std::move(observers.promptChanged))
+    , prompts_(connection_.get(), connection_.screen(), questions_, inquiry_,
+               {.prompting = std::move(observers.promptChanged),
+                .shellFocused = std::move(observers.shellFocused)})
     , front_(connection_.root(), questions_, inquiry_,
              [this, tell = std::move(observers.frontChanged)](const std::optional<WindowFacts>& facts) {
                  prompts_.setFront(facts);

@@ -21,6 +21,7 @@ public:
     struct Observers {
         FrontWindow::Observer frontChanged;
         PromptWatch::Observer promptChanged;
+        PromptWatch::Observer shellFocused; ///< as in `PromptWatch::Observers`
     };
 
     /// Connects, which alone waits for the server; null when there is none.

@@ -19,12 +19,15 @@ void FrontWindow::look()
     ++look_;
     questions_.askProperty(root_, inquiry_.activeWindow(), [this, look = look_](const std::string& value) {
         xcb_window_t window = XCB_WINDOW_NONE;
-        if (value.size() >= sizeof(window)) {
-            std::memcpy(&window, value.data(), sizeof(window));
+        if (look != look_) {
+            return;
         }
-        if (look == look_) {
-            found(window);
+        if (value.size() < sizeof(window)) {
+            observer_(std::nullopt);
+            return;
         }
+        std::memcpy(&window, value.data(), sizeof(window));
+        found(window);
     });
 }
 
@@ -38,7 +41,7 @@ void FrontWindow::propertyChanged(xcb_atom_t property)
 void FrontWindow::found(xcb_window_t window)
 {
     if (window == XCB_WINDOW_NONE) {
-        observer_(std::nullopt);
+        observer_(WindowFacts{});
         return;
     }
     inquiry_.ask(window, [this, look = look_](const WindowFacts& facts) {

@@ -13,7 +13,7 @@ namespace tocca::platform::linux {
 /// Threads: one at a time. Lifetime: as `WindowInquiry`.
 class FrontWindow {
 public:
-    /// Hears nothing when no window is active, or no window manager says so.
+    /// Hears of a window of which nothing is known when none is active, and nothing when no window manager tells.
     using Observer = std::function<void(const std::optional<WindowFacts>&)>;
 
     FrontWindow(xcb_window_t root, XQuestions& questions, const WindowInquiry& inquiry, Observer observer);

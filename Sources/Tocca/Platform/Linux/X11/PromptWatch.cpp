@@ -3,6 +3,7 @@
 #include "Platform/Linux/System/ProcessNames.h"
 #include "Platform/Linux/X11/SecretPrompts.h"
 #include "Platform/Linux/X11/XConnection.h"
+#include "Support/LowerCase.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -24,15 +25,22 @@ bool isPrompt(const WindowFacts& facts)
            isSecretPrompt(names.executable);
 }
 
+bool isShell(const WindowFacts& facts)
+{
+    return lowerCased(facts.instance) == "gnome-shell";
+}
+
 } // namespace
 
-PromptWatch::PromptWatch(xcb_connection_t* connection, xcb_window_t root, XQuestions& questions,
-                         const WindowInquiry& inquiry, Observer observer)
+PromptWatch::PromptWatch(xcb_connection_t* connection, const xcb_screen_t& screen, XQuestions& questions,
+                         const WindowInquiry& inquiry, Observers observers)
     : connection_(connection)
-    , root_(root)
+    , root_(screen.root)
     , questions_(questions)
     , inquiry_(inquiry)
-    , observer_(std::move(observer))
+    , observers_(std::move(observers))
+    , screenWidth_(screen.width_in_pixels)
+    , screenHeight_(screen.height_in_pixels)
 {}
 
 void PromptWatch::begin()
@@ -54,6 +62,15 @@ void PromptWatch::handle(const xcb_generic_event_t& event)
             coverAppeared(map.window);
         }
         break;
+    case XCB_CONFIGURE_NOTIFY: {
+        const auto& place = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
+        if (place.window == root_) {
+            screenWidth_ = place.width;
+            screenHeight_ = place.height;
+        }
+        coverPlaced(place.window, place.x, place.y, place.width, place.height);
+        break;
+    }
     case XCB_UNMAP_NOTIFY:
         coverVanished(reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window);
         break;
@@ -100,12 +117,14 @@ void PromptWatch::focusFound(xcb_window_t window)
     askFocus(); // it may have moved on before its events were listened to
     if (window <= XCB_INPUT_FOCUS_POINTER_ROOT || window == root_) {
         isFocusPrompt_ = false;
+        setShellFocused(false);
         judge();
         return;
     }
     inquiry_.ask(window, [this, window](const WindowFacts& facts) {
         if (window == focus_) {
             isFocusPrompt_ = isPrompt(facts);
+            setShellFocused(isShell(facts));
             judge();
         }
     });
@@ -166,13 +185,47 @@ void PromptWatch::coverAppeared(xcb_window_t window)
 {
     const std::uint64_t number = nextNumber_++;
     covers_[window] = {.number = number};
+    questions_.ask<xcb_get_window_attributes_reply_t>(
+        xcb_get_window_attributes(connection_, window),
+        [this, window, number](const xcb_get_window_attributes_reply_t* attributes) {
+            if (Cover* const found = cover(window, number); found != nullptr && attributes != nullptr) {
+                found->isSeen = attributes->_class != XCB_WINDOW_CLASS_INPUT_ONLY;
+            }
+        });
+    questions_.ask<xcb_get_geometry_reply_t>(
+        xcb_get_geometry(connection_, window), [this, window, number](const xcb_get_geometry_reply_t* place) {
+            if (place != nullptr && cover(window, number) != nullptr) {
+                coverPlaced(window, place->x, place->y, place->width, place->height);
+            }
+        });
     inquiry_.ask(window, [this, window, number](const WindowFacts& facts) {
-        const auto cover = covers_.find(window);
-        if (cover != covers_.end() && cover->second.number == number) {
-            cover->second.isPrompt = isPrompt(facts);
+        if (Cover* const found = cover(window, number)) {
+            found->isPrompt = isPrompt(facts);
             judge();
         }
     });
+}
+
+PromptWatch::Cover* PromptWatch::cover(xcb_window_t window, std::uint64_t number)
+{
+    const auto found = covers_.find(window);
+    return found != covers_.end() && found->second.number == number ? &found->second : nullptr;
+}
+
+void PromptWatch::coverPlaced(xcb_window_t window, int x, int y, int width, int height)
+{
+    const auto found = covers_.find(window);
+    if (found != covers_.end()) {
+        found->second.isWhole = x <= 0 && y <= 0 && x + width >= screenWidth_ && y + height >= screenHeight_;
+        judge();
+    }
+}
+
+void PromptWatch::setShellFocused(bool isFocused)
+{
+    if (std::exchange(isShellFocused_, isFocused) != isFocused) {
+        observers_.shellFocused(isFocused);
+    }
 }
 
 void PromptWatch::coverVanished(xcb_window_t window)
@@ -184,11 +237,13 @@ void PromptWatch::coverVanished(xcb_window_t window)
 
 void PromptWatch::judge()
 {
-    const bool isPrompting =
-        isFrontPrompt_ || isFocusPrompt_ || (isGrabbed_ && isPromptOpen_) ||
-        std::any_of(covers_.begin(), covers_.end(), [](const auto& entry) { return entry.second.isPrompt; });
+    const bool isLocked = std::any_of(covers_.begin(), covers_.end(), [this](const auto& entry) {
+        const Cover& cover = entry.second;
+        return cover.isPrompt || (isGrabbed_ && cover.isSeen && cover.isWhole);
+    });
+    const bool isPrompting = isFrontPrompt_ || isFocusPrompt_ || (isGrabbed_ && isPromptOpen_) || isLocked;
     if (std::exchange(isPrompting_, isPrompting) != isPrompting) {
-        observer_(isPrompting);
+        observers_.prompting(isPrompting);
     }
 }
 

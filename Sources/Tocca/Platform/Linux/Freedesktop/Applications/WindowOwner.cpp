@@ -23,7 +23,7 @@ std::optional<InstalledApplication> installed(const WindowOwner& owner, DesktopE
 
 } // namespace
 
-std::optional<RunningApplication> applicationOf(const WindowOwner& owner, DesktopEntries& entries)
+RunningApplication applicationOf(const WindowOwner& owner, DesktopEntries& entries)
 {
     const auto application = installed(owner, entries);
     std::vector<std::string> names = owner.applicationIds;
@@ -33,10 +33,10 @@ std::optional<RunningApplication> applicationOf(const WindowOwner& owner, Deskto
     // The class before the instance, which is often a detail of one window.
     names.insert(names.end(), owner.windowClasses.rbegin(), owner.windowClasses.rend());
     std::erase(names, "");
-    if (names.empty()) {
-        return std::nullopt;
+    RunningApplication running;
+    if (!names.empty()) {
+        running.bundleIdentifier = application ? application->id : names.front();
     }
-    RunningApplication running{.bundleIdentifier = application ? application->id : names.front()};
     names.push_back(owner.executable);
     for (auto name = names.begin(); name != names.end() && running.kind == ApplicationKind::other; ++name) {
         running.kind = kindOfApplication(*name);

@@ -21,7 +21,6 @@ struct WindowOwner {
 ///
 /// Its identifier is the id of its desktop entry, else what the window calls itself. Its name is the desktop entry's, else the window
 /// class.
-[[nodiscard]] std::optional<RunningApplication> applicationOf(const WindowOwner& owner,
-                                                              DesktopEntries& entries);
+[[nodiscard]] RunningApplication applicationOf(const WindowOwner& owner, DesktopEntries& entries);
 
 } // namespace tocca::platform::linux

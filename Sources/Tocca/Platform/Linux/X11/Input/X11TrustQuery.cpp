@@ -42,6 +42,25 @@ bool X11TrustQuery::promptForTrust()
     return false;
 }
 
+std::string X11TrustQuery::explanation()
+{
+    switch (judge()) {
+    case Verdict::Wayland:
+        return "This is a Wayland session, in which a program hears only what is typed into its own windows. "
+               "Tocca hears every key in a "
+               "session on X11: log out, choose a session called X11 or Xorg where you log in, and start "
+               "Tocca again.";
+    case Verdict::NoServer:
+        return "Tocca hears the keyboard through the X server, and none answers at DISPLAY.";
+    case Verdict::NoRawEvents:
+        return "Tocca hears the keyboard through XInput 2.1, and the X server of this session does not have "
+               "it. Later servers do.";
+    case Verdict::Trusted:
+        break;
+    }
+    return "Nothing is missing: Tocca hears the keyboard of this session.";
+}
+
 X11TrustQuery::Verdict X11TrustQuery::judge()
 {
     if (isWaylandSession()) {

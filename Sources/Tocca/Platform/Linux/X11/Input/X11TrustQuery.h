@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <set>
+#include <string>
 
 namespace tocca::platform {
 class StandardOutput;
@@ -21,6 +22,9 @@ public:
 
     /// An X server grants what it has without asking, so there is no prompt: what is missing is printed, each reason once.
     bool promptForTrust() override;
+
+    /// What is missing and what helps, in sentences for people; that nothing is, when nothing is.
+    [[nodiscard]] std::string explanation();
 
 private:
     enum class Verdict { Trusted, Wayland, NoServer, NoRawEvents };
