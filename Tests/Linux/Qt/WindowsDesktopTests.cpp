@@ -57,7 +57,7 @@ TEST_F(WindowsDesktop, OpensInTheMiddleAsTheProgramsOwn)
     const QPoint offset = content_.window()->frameGeometry().center() -
                           content_.window()->screen()->availableGeometry().center();
     EXPECT_LE(std::max(std::abs(offset.x()), std::abs(offset.y())), 24) << "but for half a title bar";
-    EXPECT_TRUE(contains(property(content_.id(), "WM_CLASS"), "\"tocca\", \"org.tocca.Tocca\""));
+    EXPECT_TRUE(contains(property(content_.id(), "WM_CLASS"), "\"tocca\", \"Tocca\""));
     EXPECT_TRUE(contains(property(content_.id(), "WM_NORMAL_HINTS"), "minimum size: 880 by 600"));
     content_.window()->resize(1000, 700);
     EXPECT_TRUE(runUntil([&] { return content_.item->size() == QSizeF(1000, 700); }));

@@ -4,6 +4,7 @@ pkg_check_modules(TOCCA_XCB REQUIRED IMPORTED_TARGET xcb xcb-res xcb-shape xcb-x
 # What the X server tells: keys, windows in front, selections; without Qt.
 app_module(tocca_linux_x11
     UNITS
+        Platform/Linux/X11/DesktopScale
         Platform/Linux/X11/DesktopWatch
         Platform/Linux/X11/FrontWindow
         Platform/Linux/X11/PromptWatch

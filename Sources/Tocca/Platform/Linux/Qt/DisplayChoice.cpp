@@ -1,6 +1,7 @@
 #include "Platform/Linux/Qt/DisplayChoice.h"
 
 #include "Platform/Linux/System/WaylandSession.h"
+#include "Platform/Linux/X11/DesktopScale.h"
 #include "Platform/Linux/X11/XConnection.h"
 
 #include <QByteArray>
@@ -13,7 +14,9 @@ namespace tocca::platform::linux {
 
 namespace {
 
-constexpr const char* kPlatform = "QT_QPA_PLATFORM"; // Qt's own variable
+// Qt's own variables
+constexpr const char* kPlatform = "QT_QPA_PLATFORM";
+constexpr const char* kScale = "QT_SCALE_FACTOR";
 
 std::string inPlainLetters(std::string_view text)
 {
@@ -53,6 +56,9 @@ std::optional<std::string> chooseDisplay()
     }
     if (!qEnvironmentVariableIsEmpty("DISPLAY") && XConnection::open()) {
         qputenv(kPlatform, QByteArrayLiteral("xcb"));
+        if (const int scale = desktopScale(); scale > 1 && !qEnvironmentVariableIsSet(kScale)) {
+            qputenv(kScale, QByteArray::number(scale));
+        }
         return xServerName();
     }
     if (isWaylandSession()) {

@@ -9,7 +9,7 @@ namespace tocca::platform::linux {
 /// underscores: two names of the same display are the same.
 ///
 /// An X server that answers comes first, XWayland included, because a Wayland compositor lets no program place a popover or an overlay.
-/// Then comes Wayland.
+/// Then comes Wayland. Qt is also told how large the desktop draws its windows, where it would not see that by itself.
 /// Threads: main. Order: before the application object.
 /// Errors: nothing where no display answers.
 [[nodiscard]] std::optional<std::string> chooseDisplay();

@@ -1,7 +1,5 @@
 #include "Platform/Linux/Qt/XDesktop.h"
 
-#include "Platform/Linux/System/ApplicationId.h"
-
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -11,6 +9,8 @@ namespace tocca::platform::linux {
 
 namespace {
 
+constexpr const char* kWindowClass =
+    "Tocca"; // which task switchers show; the desktop entry's StartupWMClass says the same
 constexpr std::size_t kCompositor = 0;
 constexpr std::size_t kTray = 1;
 
@@ -41,7 +41,7 @@ void XDesktop::adopt(QWindow& window)
 {
     window.create();
     if (auto desktop = requests()) {
-        desktop->setClass(static_cast<xcb_window_t>(window.winId()), "tocca", kApplicationId);
+        desktop->setClass(static_cast<xcb_window_t>(window.winId()), "tocca", kWindowClass);
     }
 }
 
