@@ -190,6 +190,19 @@ TEST(Decoder, MixesMoreThanTwoChannelsToTheirSides)
     EXPECT_EQ(downmixOf(SoundFormat::OggVorbis, 3).right[2], downmixOf(SoundFormat::Wav, 3).right[1]);
 }
 
+TEST(Decoder, SaysNothingOnStandardErrorOfDamagedFiles)
+{
+    const Bytes whole = encoded(Encoding::Mp3, instruments::sine(440, 22050, 20000));
+    testing::internal::CaptureStderr();
+    for (std::size_t at = 100; at < whole.size(); at += 61) {
+        Bytes damaged = whole;
+        damaged[at] ^= std::byte{0xFF};
+        damaged.resize(whole.size() - at / 8);
+        (void)decode(damaged);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST(Decoder, TrimsTheSilenceThatAnMp3EncoderPutsInFrontAndNoOther)
 {
     std::vector<float> late(4000, 0.0F);

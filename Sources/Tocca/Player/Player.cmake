@@ -3,6 +3,7 @@ app_module(tocca_player_interface
     DEPENDS tocca_platform)
 
 find_package(PkgConfig REQUIRED)
+pkg_check_modules(mpg123 REQUIRED IMPORTED_TARGET libmpg123)
 pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
 pkg_check_modules(soxr REQUIRED IMPORTED_TARGET soxr)
 
@@ -19,6 +20,7 @@ app_module(tocca_player
         Player/MixerAudioPlayers
         Player/Decoding/Decoder
         Player/Decoding/Downmix
+        Player/Decoding/Mp3Stream
         Player/Decoding/PcmCache
         Player/Decoding/PcmClip
         Player/Decoding/Resampler
@@ -42,4 +44,4 @@ app_module(tocca_player
         Player/Mixing/VoiceRequest.h
         Player/Mixing/X86/SincKernelAvx2.h
     DEPENDS tocca_player_interface tocca_platform tocca_support
-    PRIVATE_DEPENDS PkgConfig::sndfile PkgConfig::soxr)
+    PRIVATE_DEPENDS PkgConfig::mpg123 PkgConfig::sndfile PkgConfig::soxr)

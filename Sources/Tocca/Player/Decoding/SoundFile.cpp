@@ -1,15 +1,19 @@
 #include "Player/Decoding/SoundFile.h"
 
+#include "Player/Decoding/Mp3Stream.h"
+
 #include <sndfile.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <optional>
 
 namespace tocca::player {
 
 struct SoundFile::State {
+    std::optional<Mp3Stream> mp3; // libsndfile decodes the other formats
     std::span<const std::byte> bytes;
     sf_count_t position = 0;
     SF_INFO info{};
@@ -57,10 +61,10 @@ bool isPlayed(int format, SoundFormat expected) noexcept
     switch (expected) {
     case SoundFormat::Wav:
         return std::find(kEncodings.begin(), kEncodings.end(), encoding) != kEncodings.end();
-    case SoundFormat::Mp3:
-        return encoding == SF_FORMAT_MPEG_LAYER_III;
     case SoundFormat::OggVorbis:
         return encoding == SF_FORMAT_VORBIS;
+    case SoundFormat::Mp3:
+        break;
     }
     return false;
 }
@@ -70,6 +74,10 @@ bool isPlayed(int format, SoundFormat expected) noexcept
 SoundFile::SoundFile(std::span<const std::byte> bytes, SoundFormat format)
     : state_(std::make_unique<State>())
 {
+    if (format == SoundFormat::Mp3) {
+        state_->mp3.emplace(bytes);
+        return;
+    }
     state_->bytes = bytes;
     SF_VIRTUAL_IO io = memoryIo<State>();
     state_->file = sf_open_virtual(&io, SFM_READ, &state_->info, state_.get());
@@ -88,21 +96,24 @@ SoundFile::~SoundFile()
 
 bool SoundFile::isOpen() const noexcept
 {
-    return state_->file != nullptr;
+    return state_->mp3 ? state_->mp3->isOpen() : state_->file != nullptr;
 }
 
 int SoundFile::sampleRate() const noexcept
 {
-    return state_->info.samplerate;
+    return state_->mp3 ? state_->mp3->sampleRate() : state_->info.samplerate;
 }
 
 int SoundFile::channelCount() const noexcept
 {
-    return state_->info.channels;
+    return state_->mp3 ? state_->mp3->channelCount() : state_->info.channels;
 }
 
 std::size_t SoundFile::read(std::span<float> samples)
 {
+    if (state_->mp3) {
+        return state_->mp3->read(samples);
+    }
     const auto frames = static_cast<sf_count_t>(samples.size()) / state_->info.channels;
     const sf_count_t got = sf_readf_float(state_->file, samples.data(), frames);
     return static_cast<std::size_t>(std::clamp<sf_count_t>(got, 0, frames));
