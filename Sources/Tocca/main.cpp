@@ -7,6 +7,7 @@
 #include "Platform/Linux/Qt/RendererChoice.h"
 #include "Platform/Linux/Qt/TerminationSignals.h"
 #include "Platform/Linux/Qt/Windows/QuickView.h"
+#include "Platform/Linux/System/CoreFiles.h"
 #include "Player/MixerAudioPlayers.h"
 #include "Player/Mixing/Mixer.h"
 #include "Support/ThreadRole.h"
@@ -59,6 +60,7 @@ ui::ViewFactory viewsOf(ui::Interface& interface)
 int main(int /*argc*/, char** argv)
 {
     setThreadRole(ThreadRole::Main);
+    platform::linux::forbidCoreFiles();
     platform::linux::LinuxStandardOutput::reserveDescriptors();
     platform::linux::TerminationSignals signals; // before Qt starts a thread that would receive them
     const auto display = platform::linux::chooseDisplay();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/Wipe.h"
+
 #include <cstddef>
 #include <new>
 #include <type_traits>
@@ -7,7 +9,7 @@
 
 namespace tocca {
 
-/// A move-only call with its captures stored inside: posting one never allocates.
+/// A move-only call with its captures stored inside: posting one never allocates. Where it was moved from, or has ended, nothing of them is left.
 ///
 /// Captures larger than `kCapacity` do not compile; box them in a `unique_ptr` off the real-time threads.
 class Task {
@@ -63,8 +65,12 @@ private:
         [](void* to, void* from) noexcept {
             ::new (to) Call(std::move(*static_cast<Call*>(from)));
             static_cast<Call*>(from)->~Call();
+            wipe(from, sizeof(Call));
         },
-        [](void* self) noexcept { static_cast<Call*>(self)->~Call(); },
+        [](void* self) noexcept {
+            static_cast<Call*>(self)->~Call();
+            wipe(self, sizeof(Call));
+        },
     };
 
     void take(Task& other) noexcept

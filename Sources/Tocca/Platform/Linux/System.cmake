@@ -27,6 +27,7 @@ app_module(tocca_linux_system
         Platform/Linux/System/Threads/WakeDescriptor
     HEADERS
         Platform/Linux/System/ApplicationId.h
+        Platform/Linux/System/CoreFiles.h
         Platform/Linux/System/FileDescriptor.h
         Platform/Linux/System/Files/SystemCalls.h
         Platform/Linux/System/LinuxClock.h
