@@ -31,7 +31,7 @@ INTERFACES = {"Desktop"}
 FOREIGN = {
     "Support": {"unicode/normalizer2.h", "unicode/uchar.h", "unicode/unistr.h"},
     "Audio": {"simdjson.h"},
-    "Player": {"sndfile.h", "soxr.h", "immintrin.h", "xmmintrin.h"},
+    "Player": {"mpg123.h", "sndfile.h", "soxr.h", "immintrin.h", "xmmintrin.h"},
 }
 UNRESTRICTED = {"Platform/Linux", "UI/views", "main"}
 BRANCHING = {"Platform/Linux", "main"}
