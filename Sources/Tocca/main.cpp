@@ -4,6 +4,7 @@
 #include "Platform/Linux/Freedesktop/MotionPreference.h"
 #include "Platform/Linux/LinuxHost.h"
 #include "Platform/Linux/Qt/DisplayChoice.h"
+#include "Platform/Linux/Qt/LateScreenReaders.h"
 #include "Platform/Linux/Qt/RendererChoice.h"
 #include "Platform/Linux/Qt/TerminationSignals.h"
 #include "Platform/Linux/Qt/Windows/QuickView.h"
@@ -70,6 +71,7 @@ int main(int /*argc*/, char** argv)
         std::fputs(kNoDisplay, stderr);
         return EXIT_FAILURE;
     }
+    platform::linux::noticeLateScreenReaders();
     const QByteArray launch = qgetenv("DESKTOP_STARTUP_ID"); // before Qt takes it for itself
     int nameAlone = 1;                                       // the program takes no options, not even Qt's
     const QGuiApplication application(nameAlone, argv);

@@ -57,7 +57,7 @@ HEADER_LISTS = {"HEADERS": "", "TOCCA_UI_HEADERS": "UI/"}  # and what their name
 UNIT_LISTS = {"UNITS": "", "TOCCA_UI_UNITS": "UI/"}
 
 # The parts of the interface that stand on Qt.
-VIEW = re.compile(r"^UI/((Quick|Controls|Symbols)/.*|(.*ViewModel|Interface)\.(h|cpp))$")
+VIEW = re.compile(r"^UI/((Access|Quick|Controls|Symbols)/.*|(.*ViewModel|Interface)\.(h|cpp))$")
 
 
 def layer(path):

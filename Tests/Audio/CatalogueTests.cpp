@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <initializer_list>
+#include <unordered_set>
+
 namespace tocca::audio {
 namespace {
 
@@ -21,6 +25,24 @@ TEST(Catalogues, MapOnlyExactRawValuesBack)
     }
     EXPECT_EQ(SwitchType::fromRawValue("holy panda"), std::nullopt);
     EXPECT_EQ(SwitchType::fromRawValue("Typewriter "), std::nullopt);
+}
+
+template <class Key>
+std::size_t distinct(std::initializer_list<Key> keys)
+{
+    return std::unordered_set<Key>(keys).size();
+}
+
+TEST(Catalogues, AreKeysOfTables)
+{
+    EXPECT_EQ(distinct<SwitchType>({SwitchType::nkCream, SwitchType::typewriter, SwitchType::nkCream}), 2U);
+    EXPECT_EQ(
+        distinct<AcousticDeskSurface>({AcousticDeskSurface::cleanStudio, AcousticDeskSurface::gasketPoron}),
+        2U);
+    EXPECT_EQ(distinct<MouseSwitchProfile>({MouseSwitchProfile::omron50M, MouseSwitchProfile::omron50M}), 1U);
+    EXPECT_EQ(distinct<KeyCategory>({KeyCategory::enter, KeyCategory::from(36), KeyCategory::from(49)}), 2U);
+    EXPECT_EQ(distinct<KeyStrokeAction>({KeyStrokeAction::down, KeyStrokeAction::up}), 2U);
+    EXPECT_EQ(distinct<MouseButton>({MouseButton::left, MouseButton::right, MouseButton::other}), 3U);
 }
 
 } // namespace

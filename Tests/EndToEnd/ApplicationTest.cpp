@@ -153,8 +153,9 @@ TEST(ApplicationWithoutTray, KeepsRunningAndSaysOnceHowItsWindowComesBack)
     for (int time = 0; time < 2; ++time) {
         ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();
         hands.press(KEY_LEFTCTRL);
-        hands.press(KEY_W);
-        hands.release(KEY_W);
+        const std::uint16_t gone = time == 0 ? KEY_H : KEY_W; // "Hide Tocca", then "Close Window"
+        hands.press(gone);
+        hands.release(gone);
         hands.release(KEY_LEFTCTRL);
         ASSERT_TRUE(becomesTrue(
             [&] { return screen.windowsOf(program.id()).empty() || screen.activeWindow() != kStudio; }));

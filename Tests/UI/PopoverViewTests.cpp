@@ -299,8 +299,8 @@ TEST_F(MenuBarViewTest, TheKeyboardReachesEveryControlAndEachHasAName)
     QStringList reached = traversal();
     const QStringList expected =
         QString::fromLatin1(
-            "openStudio,isEnabled,quickLeft,quickSpacebar,quickRight,quickHUD,openSettings,"
-            "checkAgain,import,builtInPack0,builtInPack4,nextPage,communityPack0,communityPack3,"
+            "isEnabled,openStudio,quickLeft,quickSpacebar,quickRight,quickHUD,openSettings,"
+            "checkAgain,import,builtInPack0,nextPage,communityPack0,"
             "autoMuteOnCalls,muteOnSensitiveApps,isSpatialAudioEnabled,isHapticsEnabled,"
             "isBurstDynamicsEnabled,isNotchHUDEnabled,isUnderglowEnabled,underglowTheme,lubeLevel,"
             "deskSurface,isMouseAudioEnabled,mouseProfile,isScrollRatchetEnabled,volume,"

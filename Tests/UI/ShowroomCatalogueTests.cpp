@@ -87,6 +87,7 @@ TEST(ShowroomCatalogue, TakesWhatPassesSearchAndFilter)
         {.search = "", .filter = "Novelty", .titles = {}},
         {.search = "thock", .filter = "All", .titles = {"Holy Panda"}},
         {.search = "ÄRM", .filter = "Linear", .titles = {"Ärmel Red"}},
+        {.search = "A\u0308rm", .filter = "All", .titles = {"Ärmel Red"}},
         {.search = "ÄRM", .filter = "Vintage", .titles = {}},
         {.search = "ΣΥΛΛΟΓΉ", .filter = "All", .titles = {"Buckling"}},
         {.search = "arme", .filter = "All", .titles = {"Ärmel Red"}},

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <string>
 
 namespace tocca::ui {
 namespace {
@@ -34,6 +35,11 @@ TEST(StudioText, ReadsVolumesAsWholePercents)
             EXPECT_EQ(studioText::isPresetActive(preset, row.volume), i == row.activePreset) << i;
         }
     }
+    for (int percent = 0; percent <= 100; ++percent) {
+        EXPECT_EQ(studioText::percentage(studioText::levelOf(percent / 100.0)),
+                  std::to_string(percent) + "%");
+    }
+    EXPECT_EQ(studioText::levelOf(0.4567), 0.4567F);
     EXPECT_EQ(studioText::presetLabel(0.25F), "25%");
     EXPECT_EQ(studioText::presetLabel(1.0F), "100% (MAX)");
 }

@@ -1,4 +1,5 @@
 #include "App/MainMenuTable.h"
+#include "UI/MenuDouble.h"
 #include "UI/Studio/MainWindowViewModel.h"
 #include "UI/ViewTest.h"
 
@@ -12,22 +13,6 @@ namespace tocca::ui {
 namespace {
 
 using testing::ElementsAre;
-
-class Target final : public platform::MenuTarget {
-public:
-    bool performMenuAction(std::string_view action) override
-    {
-        performed.emplace_back(action);
-        return true;
-    }
-
-    platform::MenuItemState validateMenuItem(const platform::MenuItem& item) override
-    {
-        return {.isEnabled = item.action != "undo:", .isChecked = item.action == app::kToggleNotchHUD};
-    }
-
-    std::vector<std::string> performed;
-};
 
 class StudioViewTest : public ViewTest {
 protected:
@@ -68,7 +53,7 @@ protected:
         return titles;
     }
 
-    Target target;
+    MenuDouble target;
     MainWindowViewModel model{machine.all};
 };
 
@@ -311,14 +296,14 @@ TEST_F(StudioViewTest, ReachesEveryControlByTabAndNamesIt)
     const std::vector<Row> rows{
         {StudioTab::showroom,
          {880, 600},
-         {"hideSidebar", "tab0", "notchHUD", "filter", "audition Holy Panda", "audition Pack 1"}},
+         {"hideSidebar", "tab0", "menu0", "notchHUD", "filter", "audition Holy Panda", "audition Pack 1"}},
         {StudioTab::acoustics,
          {880, 600},
          {"volume", "preset0", "preset3", "presenceEQ", "upstroke", "spatialAudio", "haptics", "lube",
-          "deskSurface", "mouseAudio", "mouseProfile", "scrollRatchet", "notchHUD", "underglow",
-          "underglowTheme"}},
+          "4mm Felt Deskmat (Thock)", "mouseAudio", "mouseProfile", "scrollRatchet", "notchHUD", "underglow",
+          "Studio Amber"}},
         {StudioTab::privacy, {960, 650}, {"autoMuteOnCalls", "muteOnSensitiveApps"}},
-        {StudioTab::settings, {960, 650}, {"launchAtLogin", "openPacks"}},
+        {StudioTab::settings, {960, 650}, {"launchAtLogin", "Soundpacks Directory", "openPacks"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.tab);

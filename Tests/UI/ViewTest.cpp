@@ -4,6 +4,8 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPointingDevice>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -174,6 +176,30 @@ void ViewTest::wheel(const QString& objectName, double notches)
     }
 }
 
+void ViewTest::swipe(const QString& objectName, int angle)
+{
+    static const QPointingDevice touchpad(
+        QStringLiteral("touchpad"), 77, QInputDevice::DeviceType::TouchPad,
+        QPointingDevice::PointerType::Finger,
+        QInputDevice::Capability::Scroll | QInputDevice::Capability::PixelScroll, 2, 1);
+    if (QQuickItem* target = item(objectName)) {
+        const QPointF middle = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
+        QWheelEvent event(middle, middle, {}, QPoint(0, angle), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false, Qt::MouseEventNotSynthesized, &touchpad);
+        QCoreApplication::sendEvent(&window, &event);
+        settle();
+    }
+}
+
+void ViewTest::repeat(Qt::Key key)
+{
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent event(type, key, Qt::NoModifier, {}, true);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    settle();
+}
+
 QStringList ViewTest::traversal()
 {
     constexpr int kMostControls = 200;
@@ -198,7 +224,8 @@ QStringList ViewTest::unnamedControls()
     eachItem(*window.contentItem(), [&](QQuickItem& candidate) {
         if (candidate.activeFocusOnTab() && isInSight(candidate)) {
             auto* interface = accessible(candidate);
-            if (interface == nullptr || interface->text(QAccessible::Name).isEmpty()) {
+            if (interface == nullptr || interface->text(QAccessible::Name).isEmpty() ||
+                interface->role() == QAccessible::NoRole || interface->role() == QAccessible::Client) {
                 unnamed.append(candidate.objectName() + QStringLiteral(" (") +
                                QString::fromLatin1(candidate.metaObject()->className()) +
                                QStringLiteral(")"));

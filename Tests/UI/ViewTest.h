@@ -62,10 +62,16 @@ protected:
     /// Turns the wheel over the named item. Units: notches, upwards positive.
     void wheel(const QString& objectName, double notches);
 
+    /// Moves two fingers on a touchpad over the named item. Units: eighths of a degree, upwards positive.
+    void swipe(const QString& objectName, int angle);
+
+    /// A key that is held goes on being pressed.
+    void repeat(Qt::Key key);
+
     /// Presses Tab until the focus is where it began; the names of the items it stood on (or their accessible names), in order.
     [[nodiscard]] QStringList traversal();
 
-    /// The controls below the window's content that can be used but have no accessible name.
+    /// The controls below the window's content that can be used but have no accessible name, or no role that says what they do.
     [[nodiscard]] QStringList unnamedControls();
 
     /// Runs the event loop until `condition` holds, for up to five seconds.

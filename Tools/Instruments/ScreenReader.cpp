@@ -124,6 +124,7 @@ private:
     {
         constexpr unsigned kChecked = 4;
         constexpr unsigned kEnabled = 8;
+        constexpr unsigned kFocusable = 11;
         constexpr unsigned kFocused = 12;
         constexpr unsigned kShowing = 25;
         const QDBusReply<QList<unsigned>> reply = call(reference, "org.a11y.atspi.Accessible", "GetState");
@@ -133,6 +134,7 @@ private:
         };
         control.isChecked = has(kChecked);
         control.isEnabled = has(kEnabled);
+        control.isFocusable = has(kFocusable);
         control.isFocused = has(kFocused);
         control.isShowing = has(kShowing);
     }
@@ -140,8 +142,10 @@ private:
     QDBusConnection connection_;
 };
 
-ScreenReader::ScreenReader()
-    : launcher_({"/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1"})
+ScreenReader::ScreenReader(Start start)
+    : launcher_({"/usr/libexec/at-spi-bus-launcher", "--launch-immediately",
+                 start == Start::on ? "--a11y=1" : "--a11y=0",
+                 start == Start::on ? "--screen-reader=1" : "--screen-reader=0"})
 {
     QString address;
     if (!becomesTrue([&address] { return !(address = addressOfTheBus()).isEmpty(); })) {
@@ -151,6 +155,27 @@ ScreenReader::ScreenReader()
 }
 
 ScreenReader::~ScreenReader() = default;
+
+void ScreenReader::switchOn()
+{
+    for (const char* property : {"IsEnabled", "ScreenReaderEnabled"}) {
+        QDBusMessage set = QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus",
+                                                          "org.freedesktop.DBus.Properties", "Set");
+        set << "org.a11y.Status" << property << QVariant::fromValue(QDBusVariant(true));
+        const QDBusMessage reply = QDBusConnection::sessionBus().call(set, QDBus::Block, kTimeout);
+        if (reply.type() == QDBusMessage::ErrorMessage) {
+            throw std::runtime_error(reply.errorMessage().toStdString());
+        }
+    }
+}
+
+std::optional<Control> ScreenReader::focused() const
+{
+    const auto all = controls();
+    const auto found =
+        std::find_if(all.rbegin(), all.rend(), [](const Control& control) { return control.isFocused; });
+    return found != all.rend() ? std::optional(*found) : std::nullopt;
+}
 
 std::vector<Control> ScreenReader::controls() const
 {

@@ -4,6 +4,7 @@
 #include "Instruments/Waiting.h"
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ struct Control {
     bool isChecked = false;
     bool isFocused = false;
     bool isEnabled = false;
+    bool isFocusable = false;
 
     [[nodiscard]] int midX() const noexcept { return x + width / 2; }
 
@@ -35,13 +37,22 @@ struct Control {
 /// Threads: main, with a `QCoreApplication`. Errors: throws `std::runtime_error` without that bus.
 class ScreenReader {
 public:
-    ScreenReader();
+    /// Whether the session says from the start that a screen reader is on, or not until `switchOn`.
+    enum class Start : std::uint8_t { on, off };
+
+    explicit ScreenReader(Start start = Start::on);
     ~ScreenReader();
     ScreenReader(const ScreenReader&) = delete;
     ScreenReader& operator=(const ScreenReader&) = delete;
 
+    /// Says on the session bus that a screen reader is on from now on.
+    void switchOn();
+
     /// Everything that the programs of the session show now.
     [[nodiscard]] std::vector<Control> controls() const;
+
+    /// What has the keyboard's focus now, if anything says so; the innermost of several.
+    [[nodiscard]] std::optional<Control> focused() const;
 
     /// Waits until a control of that name is to be seen; none when there is none by the deadline. `role` may be empty.
     [[nodiscard]] std::optional<Control> find(const std::string& name, const std::string& role = {},

@@ -42,8 +42,10 @@ std::vector<Menu> mainMenuTable()
               item("Cut", "cut:", command("x")), item("Copy", "copy:", command("c")),
               item("Paste", "paste:", command("v")), item("Select All", "selectAll:", command("a"))}},
         Menu{"View",
-             {item("Show Notch Dynamic Island HUD", std::string(kToggleNotchHUD),
-                   {.key = "n", .control = true})}},
+             {{.title = "Show Notch Dynamic Island HUD",
+               .action = std::string(kToggleNotchHUD),
+               .keyEquivalent = {.key = "n", .control = true},
+               .isCheckable = true}}},
         Menu{"Window", {item("Minimize", "performMiniaturize:", command("m")), item("Zoom", "performZoom:")}},
     };
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string_view>
+#include <type_traits>
 
 namespace tocca::audio {
 
@@ -14,6 +16,7 @@ template <class Self, class Cases>
 class CatalogueCase : public Cases {
 public:
     using Value = typename Cases::Value;
+    using Catalogue = CatalogueCase;
 
     constexpr CatalogueCase(Value value) noexcept
         : value_(value)
@@ -47,3 +50,14 @@ private:
 };
 
 } // namespace tocca::audio
+
+/// A case is a key by its value.
+template <class Case>
+requires std::is_base_of_v<typename Case::Catalogue, Case>
+
+struct std::hash<Case> {
+    [[nodiscard]] std::size_t operator()(const Case& key) const noexcept
+    {
+        return std::hash<typename Case::Value>{}(key);
+    }
+};

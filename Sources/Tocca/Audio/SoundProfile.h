@@ -3,7 +3,9 @@
 #include "Audio/CatalogueCase.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace tocca::audio {
@@ -61,3 +63,11 @@ public:
 };
 
 } // namespace tocca::audio
+
+template <>
+struct std::hash<tocca::audio::KeyCategory> {
+    [[nodiscard]] std::size_t operator()(tocca::audio::KeyCategory key) const noexcept
+    {
+        return std::hash<tocca::audio::KeyCategory::Value>{}(key);
+    }
+};

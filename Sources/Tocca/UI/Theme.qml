@@ -4,7 +4,9 @@ import Tocca.UI
 
 /// Every colour, face, measure and motion of the views, named once; the colours of both windows come from StudioTheme.h.
 StudioColours {
-    readonly property color warning: "#ea580c" // the system orange
+    readonly property color warning: "#c2410c" // the system orange, dark enough to be read on white
+    readonly property color controlBorder: "#808ea3" // of boxes, knobs and tracks: 3 : 1 on chassis and cards
+    readonly property color focusRing: "#b45309" // the accent, dark enough to be seen around everything
 
     // The HUD over the desktop.
     readonly property color hudFill: "#f50c0d10"
@@ -12,6 +14,7 @@ StudioColours {
     readonly property color hudLineEnd: "#404040"
     readonly property color hudBadge: "#16181e"
     readonly property color hudText: "#ffffff"
+    readonly property color hudWarning: "#ea580c"
     readonly property color hudWaveform: "#d9f59e0b"
     readonly property color hudSymbol: "#999999"
     readonly property color hudLabel: "#808080"
@@ -55,7 +58,6 @@ StudioColours {
     readonly property real pressedShade: 0.04 // black over what is pressed
     readonly property real hoverShade: 0.025
     readonly property real hoverBorder: 0.35 // accent
-    readonly property real focusStrength: 0.55 // accent
 
     /// Set where the desktop asks for less motion; every change is then immediate.
     property bool reducesMotion: false

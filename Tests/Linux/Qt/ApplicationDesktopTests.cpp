@@ -1,18 +1,22 @@
 #include "Platform/Linux/Qt/LinuxApplication.h"
 #include "Platform/Linux/Qt/Menu/LinuxMainMenu.h"
+#include "Platform/Linux/Qt/Windows/AboutWindow.h"
 #include "Platform/Linux/Qt/Windows/LinuxWindows.h"
+#include "Platform/Linux/Qt/Windows/PopoverWindow.h"
 
 #include "Linux/Qt/DesktopMachine.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusVirtualObject>
 #include <QQmlComponent>
 #include <QQmlEngine>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -103,9 +107,11 @@ public:
 
     [[nodiscard]] MenuItemState validateMenuItem(const MenuItem& item) override
     {
-        return {.isEnabled = item.action != "disabled:", .isChecked = item.action == "toggleNotchHUD:"};
+        return {.isEnabled = item.action != "disabled:",
+                .isChecked = isOn && item.action == "toggleNotchHUD:"};
     }
 
+    bool isOn = true;
     std::vector<std::string> actions;
 };
 
@@ -113,12 +119,13 @@ class MenuDesktop : public ::testing::Test {
 protected:
     MenuDesktop()
     {
-        menu_.install({{"", {{"Quit Tocca", "terminate:", {"q"}}}},
-                       {"File", {{"Close Window", "performClose:", {"w"}}, {}}},
-                       {"View",
-                        {{"Show Notch Dynamic Island HUD", "toggleNotchHUD:", {.key = "n", .control = true}},
-                         {"Off", "disabled:", {"d"}}}}},
-                      target_);
+        menu_.install(
+            {{"", {{"Quit Tocca", "terminate:", {"q"}}}},
+             {"File", {{"Close Window", "performClose:", {"w"}}, {}}},
+             {"View",
+              {{"Show Notch Dynamic Island HUD", "toggleNotchHUD:", {.key = "n", .control = true}, true},
+               {"Off", "disabled:", {"d"}}}}},
+            target_);
     }
 
     /// A window with a text field that has the focus.
@@ -143,10 +150,13 @@ protected:
 
     int abouts_ = 0;
     int quits_ = 0;
+    int hidings_ = 0;
     OwnWindows family_;
     LinuxWindows windows_{family_};
     Target target_;
-    LinuxMainMenu menu_{family_, {.showAbout = [this] { ++abouts_; }, .quit = [this] { ++quits_; }}};
+    LinuxMainMenu menu_{
+        family_,
+        {.showAbout = [this] { ++abouts_; }, .quit = [this] { ++quits_; }, .hidden = [this] { ++hidings_; }}};
     QQmlEngine engine_;
     QQuickItem* field_ = nullptr;
 };
@@ -216,6 +226,68 @@ TEST_F(MenuDesktop, MinimisesTheOtherProgramsAndBringsThemBack)
     EXPECT_TRUE(runUntil([&] { return contains(isMinimised(), "Normal"); }));
 }
 
+TEST_F(MenuDesktop, HidingKeepsThePlaceAndBringsBackOnlyWhatIsStillHidden)
+{
+    const auto window = showTextField();
+    PopoverWindow popover(family_);
+    Content content;
+    popover.setContent(content.view());
+    popover.resize(100, 100);
+    popover.showAt(QRect(300, 0, 20, 20));
+    ASSERT_TRUE(runUntil([&] { return content.isShown(); }));
+    const QPoint before = field_->window()->framePosition();
+    outputOf({"xdotool", "windowmove", "--sync", std::to_string(field_->window()->winId()), "150", "90"});
+    ASSERT_TRUE(runUntil([&] { return field_->window()->framePosition() != before; }));
+    const QPoint place = field_->window()->framePosition();
+
+    perform("hide:");
+    EXPECT_EQ(hidings_, 1) << "told, so that it can say where the windows went";
+    EXPECT_FALSE(window->isVisible() || popover.isVisible());
+    perform("unhideAllApplications:");
+    EXPECT_TRUE(runUntil([&] { return field_->window()->isExposed(); }));
+    EXPECT_TRUE(runUntil([&] { return field_->window()->framePosition() == place; }));
+    EXPECT_FALSE(popover.isVisible());
+
+    perform("hide:");
+    window->makeKeyAndOrderFront(); // a second start
+    window->orderOut();             // and closed
+    perform("unhideAllApplications:");
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(MenuDesktop, HoldsInTheAboutWindowWhichIsText)
+{
+    const auto hasFocus = [](const QWindow& window) {
+        return outputOf({"xdotool", "getwindowfocus"}) == std::to_string(window.winId()) + "\n";
+    };
+    AboutWindow about(family_);
+    about.showInFront();
+    ASSERT_TRUE(runUntil([&] { return about.isActive() && hasFocus(about); }));
+    outputOf({"xdotool", "key", "ctrl+super+n", "ctrl+q"});
+    EXPECT_TRUE(runUntil([&] { return quits_ == 1; }));
+    EXPECT_THAT(target_.actions, testing::ElementsAre("toggleNotchHUD:"));
+
+    std::vector<std::string> texts;
+    const std::function<void(QAccessibleInterface*)> read = [&](QAccessibleInterface* part) {
+        if (part->role() == QAccessible::StaticText) {
+            texts.push_back(part->text(QAccessible::Name).toStdString());
+        }
+        for (int i = 0; i < part->childCount(); ++i) {
+            read(part->child(i));
+        }
+    };
+    read(QAccessible::queryAccessibleInterface(&about));
+    EXPECT_THAT(texts, testing::ElementsAre("Tocca", testing::StartsWith("Version "),
+                                            "The sound of a mechanical keyboard",
+                                            "Free software under the MIT licence"));
+    outputOf({"xdotool", "key", "Escape"});
+    EXPECT_TRUE(runUntil([&] { return !about.isVisible() && !about.isActive(); }));
+    about.showInFront();
+    ASSERT_TRUE(runUntil([&] { return about.isActive() && hasFocus(about); }));
+    outputOf({"xdotool", "key", "ctrl+w"});
+    EXPECT_TRUE(runUntil([&] { return !about.isVisible(); }));
+}
+
 /// What shows menus outside the windows on desktops that have it.
 class Registrar : public QDBusVirtualObject {
 public:
@@ -248,15 +320,24 @@ TEST_F(MenuDesktop, IsShownByADesktopThatHasAPlaceForIt)
     EXPECT_EQ(registrar.window, field_->window()->winId());
     EXPECT_TRUE(menu_.isShownByDesktop());
 
-    auto call =
-        QDBusMessage::createMethodCall(QDBusConnection::sessionBus().baseService(), registrar.menuPath,
-                                       QStringLiteral("com.canonical.dbusmenu"), QStringLiteral("GetLayout"));
-    const QDBusPendingCall pending = bus.asyncCall(call << 0 << -1 << QStringList());
-    ASSERT_TRUE(runUntil([&] { return pending.isFinished(); }));
-    const auto tree = qdbus_cast<DBusMenuTree>(pending.reply().arguments().value(1));
-    ASSERT_EQ(tree.children.size(), 3);
-    const auto& hud = tree.children[2].children[0].properties;
-    EXPECT_EQ(hud[QStringLiteral("toggle-state")], 1);
+    const auto layout = [&] {
+        auto call = QDBusMessage::createMethodCall(
+            QDBusConnection::sessionBus().baseService(), registrar.menuPath,
+            QStringLiteral("com.canonical.dbusmenu"), QStringLiteral("GetLayout"));
+        const QDBusPendingCall pending = bus.asyncCall(call << 0 << -1 << QStringList());
+        EXPECT_TRUE(runUntil([&] { return pending.isFinished(); }));
+        return qdbus_cast<DBusMenuTree>(pending.reply().arguments().value(1));
+    };
+    for (const bool isOn : {true, false}) {
+        target_.isOn = isOn;
+        const auto tree = layout();
+        ASSERT_EQ(tree.children.size(), 3);
+        const auto properties = tree.children[2].children[0].properties;
+        EXPECT_EQ(properties[QStringLiteral("toggle-type")], QStringLiteral("checkmark"));
+        EXPECT_EQ(properties[QStringLiteral("toggle-state")], isOn ? 1 : 0);
+        EXPECT_FALSE(tree.children[0].children[0].properties.contains(QStringLiteral("toggle-type")));
+    }
+    const auto hud = layout().children[2].children[0].properties;
     EXPECT_EQ(qdbus_cast<QList<QStringList>>(hud[QStringLiteral("shortcut")]).value(0),
               (QStringList{QStringLiteral("Control"), QStringLiteral("Super"), QStringLiteral("n")}));
 

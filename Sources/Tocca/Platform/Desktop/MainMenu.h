@@ -24,6 +24,7 @@ struct MenuItem {
     std::string title;
     std::string action; ///< what it does, by selector: "terminate:"
     KeyEquivalent keyEquivalent;
+    bool isCheckable = false; ///< has a place for a check mark, ticked or not
 
     bool operator==(const MenuItem&) const = default;
 };

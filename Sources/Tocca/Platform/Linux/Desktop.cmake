@@ -48,6 +48,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Freedesktop/ShellPrompt
         Platform/Linux/Qt/ApplicationIcon
         Platform/Linux/Qt/DisplayChoice
+        Platform/Linux/Qt/LateScreenReaders
         Platform/Linux/Qt/LinuxApplication
         Platform/Linux/Qt/LinuxScreens
         Platform/Linux/Qt/LocalKeys
@@ -98,7 +99,10 @@ target_compile_definitions(tocca_linux_desktop
 qt_add_resources(tocca_linux_desktop tocca_desktop_resources
     PREFIX /org.tocca
     BASE Platform/Linux/Qt/Windows
-    FILES Platform/Linux/Qt/Windows/FolderDialog.qml Platform/Linux/Qt/Windows/NoticeWindow.qml)
+    FILES
+        Platform/Linux/Qt/Windows/AboutWindow.qml
+        Platform/Linux/Qt/Windows/FolderDialog.qml
+        Platform/Linux/Qt/Windows/NoticeWindow.qml)
 qt_add_resources(tocca_linux_desktop tocca_desktop_icons
     PREFIX /org.tocca
     BASE Resources/Desktop

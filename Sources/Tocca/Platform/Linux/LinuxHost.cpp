@@ -13,7 +13,9 @@ LinuxHost::LinuxHost(const std::string& display, const QByteArray& launch)
                     .output = standardOutput_,
                     .hasStatusIcon = [this] { return statusBar_.isShown(); }})
     , mainMenu_(ownWindows_,
-                {.showAbout = [this] { showAbout(); }, .quit = [this] { application_.terminate(); }})
+                {.showAbout = [this] { showAbout(); },
+                 .quit = [this] { application_.terminate(); },
+                 .hidden = [this] { application_.setActivationPolicy(ActivationPolicy::accessory); }})
 {
     ownWindows_.setListener(&localKeys_);
 }
@@ -38,7 +40,7 @@ SchedulingAppeal LinuxHost::appeal()
 void LinuxHost::showAbout()
 {
     if (!about_) {
-        about_ = std::make_unique<AboutWindow>();
+        about_ = std::make_unique<AboutWindow>(ownWindows_);
     }
     about_->showInFront();
 }

@@ -11,11 +11,13 @@ Rectangle {
 
     implicitWidth: 18
     implicitHeight: 18
-    border.color: root.checked || root.hovered ? Theme.amberAccent : Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, 0.35))
+    border.color: root.checked || root.hovered ? Theme.amberAccent : Theme.controlBorder
     color: root.checked ? Theme.amberAccent : Theme.panelBg
     radius: 5
 
-    Behavior on color {
+    SeenBehavior on color {
+        of: root
+
         ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
     }
 

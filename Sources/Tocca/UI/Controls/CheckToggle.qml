@@ -16,6 +16,7 @@ Pressable {
     Accessible.checkable: true
     Accessible.checked: root.checked
     Accessible.description: root.line
+    hint: words.isCut ? root.title : ""
     implicitWidth: 26 + words.implicitWidth
     implicitHeight: Math.max(Theme.rowHeight, words.implicitHeight + 4)
     onActivated: root.toggled()
@@ -42,6 +43,7 @@ Pressable {
 
     Badge {
         id: fact
+        Accessible.ignored: root.badge === ""
         anchors.right: parent.right
         anchors.top: words.top
         text: root.badge

@@ -4,13 +4,16 @@ list(APPEND TOCCA_UI_QML
     Controls/Card.qml
     Controls/CheckDrawing.qml
     Controls/CheckToggle.qml
+    Controls/CopyableText.qml
     Controls/Divider.qml
     Controls/FieldGround.qml
     Controls/FocusRing.qml
     Controls/Label.qml
+    Controls/NameLabel.qml
     Controls/ScrollArea.qml
     Controls/ScrollBar.qml
     Controls/Section.qml
+    Controls/SeenBehavior.qml
     Controls/Slider.qml
     Controls/SliderTrack.qml
     Controls/SwitchDrawing.qml
@@ -20,6 +23,7 @@ list(APPEND TOCCA_UI_QML
     Controls/ToggleRow.qml
     Controls/ToolTip.qml
     Controls/ToolTipBubble.qml
+    Controls/Viewport.qml
     Controls/Buttons/ButtonFace.qml
     Controls/Buttons/ButtonGround.qml
     Controls/Buttons/ClearButton.qml

@@ -14,7 +14,7 @@ Rectangle {
 
     radius: Theme.fieldRadius
     color: Theme.cardBg
-    border.color: root.hovered && !root.focused ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
+    border.color: root.hovered && !root.focused ? Theme.amberAccent : Theme.controlBorder
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter

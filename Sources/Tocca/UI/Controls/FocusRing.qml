@@ -13,6 +13,6 @@ Rectangle {
     color: "transparent"
     radius: root.around + 2 * Theme.focusWidth
     border.width: Theme.focusWidth
-    border.color: Blend.alpha(Theme.amberAccent, Theme.focusStrength)
+    border.color: Theme.focusRing
     visible: parent && parent.activeFocus
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Tocca.UI
 
-/// A view on a column that is higher than itself. It follows the wheel, the bar at its right edge, Page keys and the keyboard's focus.
+/// A view on a column that is higher than itself. It follows wheel and touchpad, the bar at its right edge, Page keys and the keyboard's focus.
 FocusScope {
     id: root
 
@@ -17,6 +17,17 @@ FocusScope {
 
     function scrollBy(points: real): void {
         root.scrollTo((glide.running ? glide.to : flick.contentY) + points);
+    }
+
+    /// Follows a notch of the wheel smoothly, and fingers on a touchpad at once. Units: eighths of a degree, upwards positive.
+    function turn(angle: real): void {
+        held.restart();
+        if (angle % 120 === 0) {
+            root.scrollBy(-angle / 2);
+        } else {
+            glide.stop();
+            flick.contentY = Math.max(0, Math.min(flick.contentY - angle / 2, root.lowest));
+        }
     }
 
     function reveal(item: Item): void {
@@ -52,7 +63,8 @@ FocusScope {
     }
 
     // A control that the page brings under the pointer does not take over the wheel.
-    MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; enabled: glide.running; onWheel: wheel => root.scrollBy(-wheel.angleDelta.y / 2) }
-    WheelHandler { onWheel: event => root.scrollBy(-event.angleDelta.y / 2) }
-    ScrollBar { flickable: flick; moving: glide.running }
+    MouseArea { anchors.fill: parent; acceptedButtons: Qt.NoButton; enabled: glide.running || held.running; onWheel: wheel => root.turn(wheel.angleDelta.y) }
+    WheelHandler { acceptedDevices: PointerDevice.AllDevices; enabled: root.lowest > 0; onWheel: event => root.turn(event.angleDelta.y) }
+    Timer { id: held; interval: 400 } // milliseconds
+    ScrollBar { flickable: flick; moving: glide.running || held.running }
 }

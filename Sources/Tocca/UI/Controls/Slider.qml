@@ -1,24 +1,35 @@
-pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// A slider from 0 to 1. It shows `value` and asks for another one: by drag, wheel, arrows (1 %), Page keys (10 %), Home and End.
+/// A slider from 0 to 1. It shows `level` and asks for another one: by drag, wheel, arrows (1 %), Page keys (10 %), Home and End.
 Item {
     id: root
 
     property string title // for assistive programs
-    property real value
+    property real level
+    property real value: level // which assistive programs set
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 1
+    readonly property real stepSize: 0.01
 
-    signal moved(real value)
+    signal moved(real level)
 
     function ask(wanted: real): void {
         const limited = Math.max(0, Math.min(wanted, 1));
-        if (limited !== root.value)
+        if (limited !== root.level)
             root.moved(limited);
     }
 
+    /// From whole per cent to whole per cent, counted as the level reads.
     function askSteps(steps: real): void {
-        root.ask(root.value + steps / 100);
+        root.ask((Math.floor(root.level * 100 + 0.001) + steps) / 100);
+    }
+
+    onValueChanged: {
+        if (value !== level) {
+            root.ask(value);
+            value = Qt.binding(() => root.level);
+        }
     }
 
     Accessible.role: Accessible.Slider
@@ -44,7 +55,7 @@ Item {
 
     SliderTrack {
         anchors.fill: parent
-        filled: Math.max(0, Math.min(root.value, 1))
+        filled: Math.max(0, Math.min(root.level, 1))
         onPointed: share => root.ask(share)
         onStepped: steps => root.askSteps(steps)
     }

@@ -16,14 +16,28 @@ MouseArea {
     preventStealing: true
     onPressed: mouse => root.pointed((mouse.x - Theme.knobSize / 2) / root.travel)
     onPositionChanged: mouse => { if (pressed) root.pointed((mouse.x - Theme.knobSize / 2) / root.travel); }
-    onWheel: wheel => root.stepped(wheel.angleDelta.y / 120)
+
+    // Fingers that scroll the page over it do not turn it.
+    WheelHandler {
+        id: notches
+
+        property real turned // of a notch, in eighths of a degree
+
+        acceptedDevices: PointerDevice.Mouse
+        onWheel: event => {
+            const whole = Math.trunc((notches.turned + event.angleDelta.y) / 120);
+            notches.turned += event.angleDelta.y - 120 * whole;
+            if (whole !== 0)
+                root.stepped(whole);
+        }
+    }
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width
         height: 4
         radius: 2
-        color: Theme.cardBorder
+        color: Theme.controlBorder
 
         Rectangle {
             width: knob.x + knob.width / 2
@@ -50,6 +64,6 @@ MouseArea {
         height: width
         radius: width / 2
         color: Theme.panelBg
-        border.color: root.containsMouse || root.pressed ? Theme.amberAccent : Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, 0.3))
+        border.color: root.containsMouse || root.pressed ? Theme.amberAccent : Theme.controlBorder
     }
 }

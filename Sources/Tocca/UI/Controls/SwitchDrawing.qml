@@ -13,9 +13,11 @@ Rectangle {
     implicitWidth: Theme.switchWidth
     implicitHeight: Theme.switchHeight
     radius: height / 2
-    color: root.checked ? Theme.amberAccent : Blend.tint(Theme.cardBorder, Blend.alpha(Theme.textMuted, root.hovered ? 0.3 : 0.18))
+    color: root.checked ? Theme.amberAccent : root.hovered ? Blend.tint(Theme.controlBorder, Blend.alpha("black", Theme.pressedShade)) : Theme.controlBorder
 
-    Behavior on color {
+    SeenBehavior on color {
+        of: root
+
         ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
     }
 
@@ -36,7 +38,9 @@ Rectangle {
         color: Theme.panelBg
         border.color: Blend.alpha("black", 0.08)
 
-        Behavior on x {
+        SeenBehavior on x {
+            of: root
+
             NumberAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
         }
     }

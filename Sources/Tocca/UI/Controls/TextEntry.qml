@@ -47,9 +47,11 @@ Item {
         selectedTextColor: Theme.textPrimary
         selectionColor: Blend.alpha(Theme.amberAccent, 0.3)
         text: root.text
-        onTextEdited: {
-            root.edited(text);
-            text = Qt.binding(() => root.text); // typing has replaced what was shown
+        onTextChanged: {
+            if (text !== root.text) {
+                root.edited(text);
+                text = Qt.binding(() => root.text); // typing, or an assistive program, has replaced what was shown
+            }
         }
     }
 

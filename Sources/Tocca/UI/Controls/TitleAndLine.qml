@@ -12,10 +12,12 @@ Column {
     property int titleWeight: Font.DemiBold
     property real titleInset // kept free at the title's right
     property int mostLines: 2 // of the explanation
+    readonly property alias isCut: name.truncated // the title
 
     spacing: 2
 
     Label {
+        id: name
         width: root.width - root.titleInset
         color: Theme.textPrimary
         font.weight: root.titleWeight

@@ -17,6 +17,7 @@ Pressable {
     Accessible.checkable: true
     Accessible.checked: root.checked
     Accessible.description: root.line
+    hint: words.isCut ? root.title : ""
     implicitWidth: 280
     implicitHeight: Math.max(Theme.rowHeight, words.implicitHeight + 4)
     onActivated: root.toggled()

@@ -8,6 +8,9 @@ Item {
 
     required property NotchHUDViewModel model
 
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.model.switchName + ", " + root.model.speed + " words per minute"
+
     SpringFollow {
         id: opening
 

@@ -30,7 +30,7 @@ Item {
         Symbol {
             objectName: "speedometer"
             anchors.verticalCenter: parent.verticalCenter
-            color: root.isFast ? Theme.warning : Theme.hudSymbol
+            color: root.isFast ? Theme.hudWarning : Theme.hudSymbol
             name: "speedometer"
             size: 10
         }
@@ -38,7 +38,7 @@ Item {
         Text {
             objectName: "speed"
             anchors.verticalCenter: parent.verticalCenter
-            color: root.isFast ? Theme.warning : Theme.hudText
+            color: root.isFast ? Theme.hudWarning : Theme.hudText
             font.family: Theme.monoFace
             font.pixelSize: 12
             font.weight: Font.ExtraBold

@@ -26,8 +26,8 @@ Section {
         x: root.indent
         width: root.width - x
         title: "Krytox 205g0 Switch Lube"
-        value: root.model.lubeLevel
-        onMoved: value => root.model.setLubeLevel(value)
+        level: root.model.lubeLevel
+        onMoved: level => root.model.setLubeLevel(level)
     }
 
     IconTitleRow {

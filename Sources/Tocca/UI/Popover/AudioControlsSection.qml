@@ -29,8 +29,8 @@ Column {
             anchors.right: reading.left
             anchors.rightMargin: 8
             title: qsTr("Volume")
-            value: root.model.volume
-            onMoved: value => root.model.setVolume(value)
+            level: root.model.volume
+            onMoved: level => root.model.setVolume(level)
         }
 
         Label {

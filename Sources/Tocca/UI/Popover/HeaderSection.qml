@@ -2,11 +2,12 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// The top of the popover: brand mark, way to the Studio window, master switch and soundstage.
+/// The top of the popover: brand mark, master switch, way to the Studio window, and soundstage.
 Column {
     id: root
 
     required property MenuBarViewModel model
+    required property bool isSeen
 
     spacing: 12
 
@@ -16,13 +17,25 @@ Column {
 
         PulsingLogo {
             anchors.verticalCenter: parent.verticalCenter
+            isSeen: root.isSeen
             trigger: root.model.status.keyVisualizerTrigger
         }
 
-        PushButton {
-            objectName: "openStudio"
-            anchors.right: master.left
+        Toggle {
+            objectName: "isEnabled"
+            anchors.right: studio.left
             anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            checked: root.model.settings.isEnabled
+            hint: "All sounds of Tocca, on or off"
+            title: "Tocca sounds"
+            onToggled: root.model.settings.toggleEnabled()
+        }
+
+        PushButton {
+            id: studio
+            objectName: "openStudio"
+            anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             implicitHeight: 28
             implicitWidth: 32
@@ -32,21 +45,12 @@ Column {
             title: hint
             onActivated: root.model.showMainWindow()
         }
-
-        Toggle {
-            id: master
-            objectName: "isEnabled"
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            checked: root.model.settings.isEnabled
-            title: "Tocca"
-            onToggled: root.model.settings.toggleEnabled()
-        }
     }
 
     SoundstageStrip {
         objectName: "soundstage"
         width: root.width
+        isSeen: root.isSeen
         pan: root.model.status.lastActiveKeyPan
         trigger: root.model.status.keyVisualizerTrigger
         visible: root.model.settings.isSpatialAudioEnabled

@@ -14,6 +14,10 @@ Rectangle {
     color: Theme.chassisBg
     implicitWidth: 360
     implicitHeight: 560
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Tocca"
+
+    FocusKeeper {}
 
     ScrollArea {
         id: scroll
@@ -34,18 +38,31 @@ Rectangle {
 
             component Rule: Divider { width: column.width }
 
-            HeaderSection { x: column.margin; width: column.width - 2 * x; model: root.model }
+            /// A card that is there at times, and the rule below it.
+            component CardAtTimes: Column {
+                x: column.margin
+                width: column.width - 2 * x
+                spacing: column.spacing
+            }
+
+            HeaderSection { x: column.margin; width: column.width - 2 * x; isSeen: root.shown; model: root.model }
+            Rule {}
             Repeater {
                 model: root.model.status.isSmartMuted ? 1 : 0
-                delegate: SmartMutedCard { x: column.margin; width: column.width - 2 * x; model: root.model.status }
+                delegate: CardAtTimes {
+                    SmartMutedCard { width: parent.width; model: root.model.status }
+                    Rule { x: -column.margin }
+                }
             }
-            Rule {}
             QuickTestBar { x: column.margin; width: column.width - 2 * x; model: root.model }
+            Rule {}
             Repeater {
                 model: root.model.status.hasAccessibilityPermission ? 0 : 1
-                delegate: PermissionCard { x: column.margin; width: column.width - 2 * x; model: root.model }
+                delegate: CardAtTimes {
+                    PermissionCard { width: parent.width; model: root.model }
+                    Rule { x: -column.margin }
+                }
             }
-            Rule {}
             SoundPackSection {
                 x: column.margin
                 width: column.width - 2 * x

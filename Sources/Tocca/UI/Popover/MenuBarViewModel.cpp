@@ -4,6 +4,7 @@
 #include "UI/Quick/FileUrl.h"
 #include "UI/SwitchSelection.h"
 
+#include <algorithm>
 #include <span>
 #include <utility>
 
@@ -14,7 +15,18 @@ std::vector<RowsModel<SoundPackRow>::Role> roles()
 {
     using Rows = RowsModel<SoundPackRow>;
     return {Rows::role<&SoundPackRow::icon>("icon"), Rows::role<&SoundPackRow::title>("title"),
-            Rows::role<&SoundPackRow::line>("line"), Rows::role<&SoundPackRow::isSelected>("isSelected")};
+            Rows::role<&SoundPackRow::line>("line"), Rows::role<&SoundPackRow::isSelected>("isSelected"),
+            Rows::role<&SoundPackRow::isTabStop>("isTabStop")};
+}
+
+/// The chosen row, or the first.
+void markTabStop(std::vector<SoundPackRow>& rows)
+{
+    const auto selected =
+        std::find_if(rows.begin(), rows.end(), [](const auto& row) { return row.isSelected; });
+    if (!rows.empty()) {
+        (selected == rows.end() ? rows.front() : *selected).isTabStop = true;
+    }
 }
 
 } // namespace
@@ -47,6 +59,7 @@ void MenuBarViewModel::refreshRows()
                            .line = toQString(type.description()),
                            .isSelected = switchSelection::isSelected(engine, type)});
     }
+    markTabStop(builtIn);
     builtInPacks_.show(std::move(builtIn));
 
     std::vector<SoundPackRow> community;
@@ -57,6 +70,7 @@ void MenuBarViewModel::refreshRows()
                              .line = toQString(pack.description),
                              .isSelected = switchSelection::isSelected(engine, pack)});
     }
+    markTabStop(community);
     communityPacks_.show(std::move(community));
 }
 

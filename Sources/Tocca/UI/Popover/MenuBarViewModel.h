@@ -23,6 +23,7 @@ struct SoundPackRow {
     QString title;
     QString line;
     bool isSelected = false;
+    bool isTabStop = false; // the Tab key comes to one row of each list
 
     bool operator==(const SoundPackRow&) const = default;
 };

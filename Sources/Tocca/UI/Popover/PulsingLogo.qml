@@ -7,8 +7,10 @@ ToccaBrandLogoView {
     id: root
 
     required property real trigger
+    required property bool isSeen
 
-    onTriggerChanged: if (!Theme.reducesMotion) beat.restart()
+    onTriggerChanged: if (isSeen && !Theme.reducesMotion) beat.restart()
+    objectName: "pulsingLogo"
     transformOrigin: Item.Center
 
     SequentialAnimation on scale {

@@ -9,9 +9,17 @@ Card {
     required property StatusViewModel model
 
     objectName: "smartMutedCard"
+    Accessible.role: Accessible.Notification
+    Accessible.name: "Smart Mute Active. " + root.model.smartMuteReason
+    Component.onCompleted: Announcement.tell(root)
     borderColor: Blend.tint(Theme.cardBorder, Blend.alpha(Theme.warning, 0.5))
     color: Blend.tint(Theme.cardBg, Blend.alpha(Theme.warning, 0.06))
     padding: 12
+
+    Connections {
+        target: root.model
+        function onSmartMuteReasonChanged(): void { Announcement.tell(root); }
+    }
 
     Symbol {
         id: symbol

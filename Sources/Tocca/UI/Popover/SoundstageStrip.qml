@@ -8,11 +8,18 @@ Item {
 
     required property real pan // −1 left … +1 right
     required property real trigger
+    required property bool isSeen
 
     onTriggerChanged: {
         glow.stop();
-        dot.strength = 1;
-        glow.start();
+        if (isSeen) {
+            dot.strength = 1;
+            glow.start();
+        }
+    }
+    onIsSeenChanged: {
+        glow.stop();
+        dot.strength = 0;
     }
     implicitHeight: 30
 
@@ -48,7 +55,7 @@ Item {
     SpringFollow {
         id: follow
         dampingFraction: 0.8
-        enabled: !Theme.reducesMotion
+        enabled: root.isSeen && !Theme.reducesMotion
         response: 0.25
         to: Math.max(-1, Math.min(root.pan, 1))
     }

@@ -1,5 +1,7 @@
 #include "UI/Quick/Blend.h"
 
+#include <algorithm>
+
 namespace tocca::ui {
 
 QColor Blend::alpha(const QColor& color, double alpha)
@@ -7,6 +9,14 @@ QColor Blend::alpha(const QColor& color, double alpha)
     QColor result = color;
     result.setAlphaF(static_cast<float>(alpha));
     return result;
+}
+
+QColor Blend::between(const QColor& from, const QColor& to, double share)
+{
+    const auto way = static_cast<float>(std::clamp(share, 0.0, 1.0));
+    const auto mixed = [way](float start, float end) { return start + (end - start) * way; };
+    return QColor::fromRgbF(mixed(from.redF(), to.redF()), mixed(from.greenF(), to.greenF()),
+                            mixed(from.blueF(), to.blueF()), mixed(from.alphaF(), to.alphaF()));
 }
 
 QColor Blend::tint(const QColor& base, const QColor& over)

@@ -6,6 +6,7 @@
 #include "UI/Controllers.h"
 #include "UI/NotchHUD/NotchAcousticHUDController.h"
 #include "UI/Quick/UiProperty.h"
+#include "UI/Studio/StudioText.h"
 #include "UI/Underglow/SpatialUnderglowController.h"
 
 #include <QQmlEngine>
@@ -51,7 +52,7 @@ private:
 public:                                                                                                      \
     Q_INVOKABLE void set##Verb(double level)                                                                 \
     {                                                                                                        \
-        (source).set(static_cast<float>(level));                                                             \
+        (source).set(tocca::ui::studioText::levelOf(level));                                                 \
     }                                                                                                        \
                                                                                                              \
 private:

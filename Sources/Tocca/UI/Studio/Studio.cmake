@@ -15,6 +15,7 @@ list(APPEND TOCCA_UI_QML
     Studio/Pages/TelemetryCard.qml
     Studio/Pages/TelemetryView.qml
     Studio/Showroom/AuditionButton.qml
+    Studio/Showroom/PageButton.qml
     Studio/Showroom/ShowroomGrid.qml
     Studio/Showroom/ShowroomHeader.qml
     Studio/Showroom/ShowroomPaginationBar.qml

@@ -9,6 +9,17 @@ std::string percentage(float share)
     return std::to_string(static_cast<int>(share * 100)) + "%";
 }
 
+float levelOf(double share)
+{
+    const auto nearest = static_cast<float>(share);
+    const double percent = std::round(share * 100);
+    constexpr double kWhole = 1e-9;
+    const bool isWhole = std::abs(share * 100 - percent) < kWhole;
+    return isWhole && static_cast<int>(nearest * 100) < static_cast<int>(percent)
+               ? std::nextafter(nearest, 1.0F)
+               : nearest;
+}
+
 std::string presetLabel(float preset)
 {
     return preset == 1.0F ? "100% (MAX)" : percentage(preset);

@@ -13,6 +13,9 @@ inline constexpr std::array<float, 4> kVolumePresets{0.25F, 0.5F, 0.75F, 1.0F};
 /// "74%": the whole per cents of a share of 1.
 [[nodiscard]] std::string percentage(float share);
 
+/// The level nearest to `share` that does not read less: 0.53 becomes one that reads "53%", which the nearest of all does not.
+[[nodiscard]] float levelOf(double share);
+
 /// "75%", and "100% (MAX)".
 [[nodiscard]] std::string presetLabel(float preset);
 

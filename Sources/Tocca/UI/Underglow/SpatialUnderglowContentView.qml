@@ -8,6 +8,9 @@ Item {
 
     required property SpatialUnderglowViewModel model
 
+    Accessible.role: Accessible.Graphic
+    Accessible.name: "Underglow"
+
     Item {
         anchors.fill: parent
         opacity: root.model.pulseOpacity

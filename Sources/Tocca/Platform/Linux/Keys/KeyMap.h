@@ -41,7 +41,9 @@ inline constexpr auto kKeyCodes = [] {
     from(KEY_NUMLOCK, {kKeypadClear});
     from(KEY_KP7, {kKeypad7, kKeypad8, kKeypad9, kKeypadMinus, kKeypad4, kKeypad5, kKeypad6, kKeypadPlus,
                    kKeypad1, kKeypad2, kKeypad3, kKeypad0, kKeypadPoint});
-    from(KEY_102ND, {kIsoSection, kF11, kF12, kUnderscore});
+    // Beside the left Shift key ISO boards have the key that US boards have above Tab. It has the code of that place, and so sounds at the
+    // left; what lies above Tab keeps the same code, as no event tells which board it is on.
+    from(KEY_102ND, {kGrave, kF11, kF12, kUnderscore});
     from(KEY_HENKAN, {kKana});
     from(KEY_MUHENKAN, {kEisu});
     from(KEY_KPENTER, {kKeypadEnter, kRightControl, kKeypadDivide});

@@ -10,6 +10,7 @@ Item {
     property string symbol
     property string trailingSymbol
     property color color: Theme.textPrimary
+    property int textWeight: Font.DemiBold
     property int padding: 10
     readonly property int beside: (symbol === "" ? 0 : Theme.symbolSize + 6) + (trailingSymbol === "" ? 0 : Theme.symbolSize + 6)
 
@@ -33,7 +34,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.max(0, Math.min(implicitWidth, root.width - 2 * root.padding - root.beside))
             color: root.color
-            font.weight: Font.DemiBold
+            font.weight: root.textWeight
             text: root.text
             visible: root.text !== ""
         }

@@ -15,7 +15,9 @@ Rectangle {
     color: root.pressed ? Blend.tint(Theme.cardBg, Blend.alpha("black", Theme.pressedShade)) : Theme.cardBg
     border.color: root.on ? Blend.alpha(Theme.amberAccent, root.strength) : root.hovered ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
 
-    Behavior on border.color {
+    SeenBehavior on border.color {
+        of: root
+
         ColorAnimation { duration: Theme.stateChange; easing.type: Easing.OutCubic }
     }
 }

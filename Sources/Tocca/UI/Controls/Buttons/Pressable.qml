@@ -7,12 +7,19 @@ Item {
     id: root
 
     property string title // for assistive programs
-    property string hint // shown after a moment under the pointer
+    property string hint // shown after a moment under the pointer or with the focus
+    property string copied // goes to the clipboard when the focused item is copied
     property real radius: Theme.buttonRadius
     readonly property bool hovered: area.containsMouse
     readonly property bool pressed: area.pressed && area.containsMouse
 
     signal activated
+
+    /// What the menu's "Copy" asks of the item that has the focus.
+    function copy(): void {
+        if (root.copied !== "")
+            Clipboard.copy(root.copied);
+    }
 
     Accessible.role: Accessible.Button
     Accessible.name: root.title
@@ -37,7 +44,7 @@ Item {
     ToolTip {
         target: root
         text: root.hint
-        shown: area.containsMouse && !area.pressed
+        shown: (area.containsMouse || root.activeFocus) && !area.pressed
     }
 
     FocusRing {

@@ -10,6 +10,7 @@ Pressable {
     property alias symbol: face.symbol
     property alias trailingSymbol: face.trailingSymbol
     property alias padding: face.padding
+    property alias textWeight: face.textWeight
     property bool on
     property color color: on ? Theme.amberAccent : Theme.textPrimary
 

@@ -2,7 +2,7 @@ pragma Strict
 import QtQuick
 import Tocca.UI
 
-/// One option of a segmented picker.
+/// One option of a segmented picker. The chosen one is where the picker has the focus.
 MouseArea {
     id: root
 
@@ -11,12 +11,18 @@ MouseArea {
     required property bool selected
     required property int lines
 
+    signal chosen
+
     Accessible.role: Accessible.RadioButton
     Accessible.name: root.modelData
     Accessible.checkable: true
     Accessible.checked: root.selected
-    Accessible.onPressAction: root.clicked(null)
+    Accessible.focusable: true
+    Accessible.onPressAction: root.chosen()
+    activeFocusOnTab: root.selected
+    focus: root.selected
     hoverEnabled: true
+    onClicked: root.chosen()
 
     Rectangle {
         anchors.fill: parent
@@ -39,7 +45,7 @@ MouseArea {
     }
 
     ToolTip {
-        shown: root.containsMouse && !root.pressed
+        shown: (root.containsMouse || root.activeFocus) && !root.pressed
         target: root
         text: words.truncated ? root.modelData : ""
     }

@@ -3,7 +3,7 @@ import QtQuick
 import Tocca.UI
 
 /// A choice among options side by side, one of which it asks for. Long labels take two lines.
-Item {
+FocusScope {
     id: root
 
     property string title // for assistive programs
@@ -22,8 +22,6 @@ Item {
     Accessible.role: Accessible.Grouping
     Accessible.name: root.title
     Accessible.description: root.options[root.currentIndex] ?? ""
-    Accessible.focusable: true
-    activeFocusOnTab: true
     implicitWidth: 280
     implicitHeight: Theme.controlHeight + (labelLines - 1) * 14
     opacity: enabled ? 1 : Theme.disabledOpacity
@@ -50,7 +48,7 @@ Item {
                 height: parent.height
                 lines: root.labelLines
                 selected: root.currentIndex === index
-                onClicked: root.chosen(index)
+                onChosen: root.chosen(index)
             }
         }
     }

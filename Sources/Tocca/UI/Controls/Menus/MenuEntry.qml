@@ -11,6 +11,7 @@ MouseArea {
     property string shortcut
     property bool isSeparator
     property bool isEnabled: true
+    property bool isCheckable
     property bool isChecked
     readonly property bool current: ListView.isCurrentItem
     readonly property bool canBeChosen: isEnabled && !isSeparator
@@ -25,7 +26,8 @@ MouseArea {
     objectName: "menuItem" + root.index
     Accessible.role: root.isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: root.title
-    Accessible.checkable: root.isChecked
+    Accessible.checkable: root.isCheckable
+    Accessible.focusable: root.canBeChosen
     Accessible.checked: root.isChecked
     Accessible.onPressAction: root.choose()
     width: ListView.view ? ListView.view.width : 0

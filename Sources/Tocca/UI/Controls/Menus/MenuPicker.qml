@@ -71,6 +71,7 @@ Pressable {
     PopupMenu {
         id: menu
         target: root
+        title: root.title
         options: root.options
         currentIndex: root.currentIndex
         onChosen: index => root.chosen(index)

@@ -7,6 +7,7 @@ FocusScope {
     id: root
 
     required property Item target
+    property string title // for assistive programs
     property alias model: list.model
     property alias delegate: list.delegate
     property alias current: list.currentIndex // under the pointer or the arrow keys; −1 none
@@ -27,10 +28,12 @@ FocusScope {
 
     Keys.onUpPressed: root.stepped(-1)
     Keys.onDownPressed: root.stepped(1)
-    Keys.onReturnPressed: root.chooseCurrent()
-    Keys.onEnterPressed: root.chooseCurrent()
-    Keys.onSpacePressed: root.chooseCurrent()
+    // A key that is still held from opening the menu chooses nothing.
+    Keys.onReturnPressed: event => { if (!event.isAutoRepeat) root.chooseCurrent(); }
+    Keys.onEnterPressed: event => { if (!event.isAutoRepeat) root.chooseCurrent(); }
+    Keys.onSpacePressed: event => { if (!event.isAutoRepeat) root.chooseCurrent(); }
     Keys.onTabPressed: root.closed()
+    Keys.onBacktabPressed: root.closed()
     Keys.onEscapePressed: root.closed()
 
     MouseArea {
@@ -47,7 +50,6 @@ FocusScope {
         readonly property point at: root.target ? root.target.mapToItem(root, 0, 0) : Qt.point(0, 0)
         readonly property real below: at.y + (root.target ? root.target.height : 0) + root.gap
 
-        Accessible.role: Accessible.PopupMenu
         x: Math.max(8, Math.min(at.x, root.width - width - 8))
         y: Math.max(8, below + height + 8 <= root.height ? below : Math.min(at.y - height - root.gap, root.height - height - 8))
         width: Math.max(root.target ? root.target.width : 0, root.leastWidth)
@@ -56,9 +58,14 @@ FocusScope {
 
         ListView {
             id: list
+            Accessible.role: Accessible.PopupMenu
+            Accessible.name: root.title
+            Accessible.focusable: currentIndex < 0
             anchors.fill: parent
             boundsBehavior: Flickable.StopAtBounds
             clip: true
+            focus: true
+            keyNavigationEnabled: false // the current entry has the focus
         }
     }
 }

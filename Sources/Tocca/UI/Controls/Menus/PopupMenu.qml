@@ -6,6 +6,7 @@ Item {
     id: root
 
     required property Item target
+    property string title // for assistive programs
     property list<string> options
     property int currentIndex // the ticked option; −1 none
     readonly property bool opened: loader.active
@@ -16,7 +17,7 @@ Item {
     function open(): void {
         loader.parent = root.Window.contentItem; // not bound: a window that ends would move it about
         // Made from its file: this version of the engine makes no bound component in a loader.
-        loader.setSource("PopupMenuSheet.qml", { target: root.target, options: root.options, currentIndex: root.currentIndex });
+        loader.setSource("PopupMenuSheet.qml", { title: root.title, target: root.target, options: root.options, currentIndex: root.currentIndex });
         loader.active = true;
     }
 

@@ -17,6 +17,7 @@ MenuSheet {
     delegate: MenuEntry {
         required property string modelData
 
+        isCheckable: true
         isChecked: root.currentIndex === index
         title: modelData
         onChosen: root.chosen(index)

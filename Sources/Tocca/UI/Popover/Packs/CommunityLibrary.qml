@@ -60,12 +60,18 @@ Column {
     }
 
     Repeater {
+        id: community
         model: root.model.communityPacks
 
         delegate: SoundPackRow {
             objectName: "communityPack" + index
             width: root.width
             onActivated: root.model.chooseCommunityPack(index)
+            onStepped: step => {
+                const next = community.itemAt(index + step) as SoundPackRow;
+                next?.forceActiveFocus(Qt.TabFocusReason);
+                next?.activated();
+            }
         }
     }
 }

@@ -10,14 +10,23 @@ Pressable {
     required property string icon
     required property string line
     required property bool isSelected
+    required property bool isTabStop // of the rows that one is chosen of
     required title
+
+    signal stepped(int step)
 
     Accessible.role: Accessible.RadioButton
     Accessible.checkable: true
     Accessible.checked: root.isSelected
     Accessible.description: root.line
+    hint: words.isCut ? root.title : ""
+    activeFocusOnTab: root.isTabStop
+    copied: root.title
     implicitHeight: Math.max(Theme.rowHeight, words.implicitHeight + 14)
     radius: 8
+
+    Keys.onUpPressed: root.stepped(-1)
+    Keys.onDownPressed: root.stepped(1)
 
     Rectangle {
         anchors.fill: parent

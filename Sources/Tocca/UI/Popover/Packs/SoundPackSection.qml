@@ -24,12 +24,18 @@ Section {
     spacing: 2
 
     Repeater {
+        id: builtIn
         model: root.model.builtInPacks
 
         delegate: SoundPackRow {
             objectName: "builtInPack" + index
             width: root.width
             onActivated: root.model.chooseBuiltInPack(index)
+            onStepped: step => {
+                const next = builtIn.itemAt(index + step) as SoundPackRow;
+                next?.forceActiveFocus(Qt.TabFocusReason);
+                next?.activated();
+            }
         }
     }
 
@@ -46,6 +52,9 @@ Section {
         function onImportMessageChanged(): void {
             recently.restart();
             root.imported(message);
+            if (message.isKnown)
+                Announcement.tell(message);
+            message.isKnown = true;
         }
     }
 
@@ -54,7 +63,10 @@ Section {
     Label {
         id: message
         objectName: "importMessage"
-        Accessible.role: Accessible.StaticText
+
+        property bool isKnown // has been seen, so that a change has to be announced
+
+        Accessible.role: Accessible.Notification
         Accessible.name: text
         width: root.width
         color: Theme.mintStatus

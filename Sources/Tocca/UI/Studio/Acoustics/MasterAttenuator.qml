@@ -15,8 +15,8 @@ ConsoleSection {
         objectName: "volume"
         width: parent.width
         title: "Master Audio Attenuator"
-        value: root.model.volume
-        onMoved: value => root.model.setVolume(value)
+        level: root.model.volume
+        onMoved: level => root.model.setVolume(level)
     }
 
     Item {

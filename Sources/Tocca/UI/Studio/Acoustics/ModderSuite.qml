@@ -41,8 +41,8 @@ ConsoleSection {
         objectName: "lube"
         width: parent.width
         title: "Krytox 205g0 Switch Stem Lube"
-        value: root.model.lubeLevel
-        onMoved: value => root.model.setLubeLevel(value)
+        level: root.model.lubeLevel
+        onMoved: level => root.model.setLubeLevel(level)
     }
 
     Label {

@@ -19,6 +19,15 @@ Item {
         model: root.model
     }
 
+    SidebarButton {
+        objectName: "showSidebar"
+        x: Theme.pageMargin
+        y: Theme.pageMargin
+        z: 1
+        visible: !root.sidebarShown
+        onActivated: root.sidebarAsked()
+    }
+
     Page { tab: StudioTab.Showroom; file: "../Showroom/ShowroomView.qml" }
     Page { tab: StudioTab.Acoustics; file: "../Acoustics/AcousticsView.qml" }
     Page { tab: StudioTab.Stage; file: "../Stage/StageView.qml" }
@@ -26,11 +35,4 @@ Item {
     Page { tab: StudioTab.Telemetry; file: "TelemetryView.qml" }
     Page { tab: StudioTab.Settings; file: "SettingsView.qml" }
 
-    SidebarButton {
-        objectName: "showSidebar"
-        x: Theme.pageMargin
-        y: Theme.pageMargin
-        visible: !root.sidebarShown
-        onActivated: root.sidebarAsked()
-    }
 }

@@ -25,12 +25,19 @@ StudioPage {
         }
 
         Item {
+            id: mute
             objectName: "muteStatus"
             Accessible.name: reason.text
-            Accessible.role: Accessible.AlertMessage
+            Accessible.role: Accessible.Notification
             width: parent.width
             height: reason.height
             visible: root.model.status.isSmartMuted
+
+            // One that comes into sight is read anyway.
+            Connections {
+                target: root.model.status
+                function onMuteStatusChanged(): void { Announcement.tell(mute); }
+            }
 
             Rectangle {
                 x: 6

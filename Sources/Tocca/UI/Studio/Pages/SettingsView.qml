@@ -36,14 +36,14 @@ StudioPage {
             width: parent.width
             height: open.height
 
-            Label {
+            CopyableText {
                 objectName: "packsPath"
                 anchors.left: parent.left
                 anchors.right: open.left
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
-                elide: Text.ElideMiddle
-                font.family: root.hasDirectory ? Theme.monoFace : Theme.textFace
+                face: root.hasDirectory ? Theme.monoFace : Theme.textFace
+                title: "Soundpacks Directory"
                 size: 11
                 text: root.hasDirectory ? root.settings.packsDirectory : "This system names no folder for your data."
             }

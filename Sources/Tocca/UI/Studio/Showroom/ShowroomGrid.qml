@@ -12,6 +12,9 @@ ScrollArea {
     readonly property int columns: Math.max(1, Math.floor((room + gap) / (260 + gap)))
     readonly property real columnWidth: Math.min(360, Math.floor((room - (columns - 1) * gap) / columns))
 
+    readonly property int shownPage: root.model.currentPage
+
+    onShownPageChanged: root.contentY = 0
     contentHeight: Math.max(grid.height + 2 * Theme.pageMargin, height)
 
     Grid {

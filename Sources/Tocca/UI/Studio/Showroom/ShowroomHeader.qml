@@ -41,6 +41,7 @@ Item {
             on: root.settings.isNotchHUDEnabled
             symbol: on ? "camera.badge.ellipsis" : "camera"
             text: on ? "NOTCH HUD: ON" : "NOTCH HUD: OFF"
+            textWeight: Font.Bold
             onActivated: root.settings.toggleNotchHUD()
         }
 

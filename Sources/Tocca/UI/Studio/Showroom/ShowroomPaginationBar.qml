@@ -22,9 +22,8 @@ Rectangle {
         x: Theme.pageMargin
         spacing: 12
 
-        PushButton {
+        PageButton {
             objectName: "previous"
-            color: enabled ? Theme.textPrimary : Theme.textMuted
             enabled: root.model.canShowPreviousPage
             symbol: "chevron.left"
             text: "PREV"
@@ -62,9 +61,8 @@ Rectangle {
             }
         }
 
-        PushButton {
+        PageButton {
             objectName: "next"
-            color: enabled ? Theme.textPrimary : Theme.textMuted
             enabled: root.model.canShowNextPage
             text: "NEXT"
             trailingSymbol: "chevron.right"

@@ -26,6 +26,7 @@ Item {
     }
 
     ShowroomGrid {
+        objectName: "grid"
         anchors.bottom: bar.top
         anchors.left: parent.left
         anchors.right: parent.right

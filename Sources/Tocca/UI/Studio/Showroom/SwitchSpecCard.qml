@@ -19,15 +19,11 @@ Card {
 
     Accessible.name: root.title
     Accessible.role: Accessible.Grouping
-    borderColor: root.isSelected ? Theme.amberAccent : hover.hovered ? Blend.tint(Theme.cardBorder, Blend.alpha(Theme.amberAccent, Theme.hoverBorder)) : Theme.cardBorder
+    borderColor: root.isSelected ? Theme.amberAccent : Theme.cardBorder
     borderWidth: root.isSelected ? 1.5 : 1
     implicitHeight: 132
     padding: 12
     radius: 8
-
-    HoverHandler {
-        id: hover
-    }
 
     Rectangle {
         id: tile
@@ -46,7 +42,7 @@ Card {
         }
     }
 
-    Label {
+    NameLabel {
         id: name
         anchors.left: tile.right
         anchors.leftMargin: 10
@@ -115,6 +111,8 @@ Card {
         objectName: "audition " + root.title
         anchors.bottom: parent.bottom
         anchors.left: parent.left
+        copied: root.title
+        hint: name.truncated ? root.title : ""
         title: "Audition " + root.title
         onActivated: root.selectAsked()
     }

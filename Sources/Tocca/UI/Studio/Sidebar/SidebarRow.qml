@@ -19,6 +19,7 @@ MouseArea {
     Accessible.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: root.selected
+    Accessible.focusable: true
     Accessible.onPressAction: root.chosen()
     implicitHeight: Theme.rowHeight
     hoverEnabled: true

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// A cap of the drawn keyboard; lit and pressed in while its key is active.
+/// A cap of the drawn keyboard; lit and pressed in while its key is active. All of it follows one spring.
 Item {
     id: root
 
@@ -11,7 +11,9 @@ Item {
     required property real widthRatio
     required property bool isActive
     required property real factor
+    required property bool isSeen
     readonly property real depth: press.value // 0 up … 1 down; may swing beyond
+    readonly property real light: Math.max(0, Math.min(depth, 1))
 
     objectName: label
     transform: [
@@ -29,7 +31,7 @@ Item {
     SpringFollow {
         id: press
         dampingFraction: 0.55
-        enabled: !Theme.reducesMotion
+        enabled: root.isSeen && !Theme.reducesMotion
         response: 0.12
         to: root.isActive ? 1 : 0
     }
@@ -40,14 +42,15 @@ Item {
 
         Rectangle {
             required property int index
-            readonly property real spread: (root.isActive ? 4 : 1) * root.factor * (index + 1) / 4
+            readonly property real spread: (1 + 3 * root.light) * root.factor * (index + 1) / 4
+            readonly property real drop: (1 - root.light) * root.factor
 
             anchors.fill: parent
             anchors.margins: -spread
-            anchors.topMargin: -spread + (root.isActive ? 0 : root.factor)
-            anchors.bottomMargin: -spread - (root.isActive ? 0 : root.factor)
+            anchors.topMargin: -spread + drop
+            anchors.bottomMargin: -spread - drop
             radius: 3.5 * root.factor + spread
-            color: root.isActive ? Blend.alpha(Theme.amberAccent, 0.5 / 4) : Blend.alpha("black", 0.15 / 4)
+            color: Blend.between(Blend.alpha("black", 0.15 / 4), Blend.alpha(Theme.amberAccent, 0.5 / 4), root.light)
         }
     }
 
@@ -57,21 +60,24 @@ Item {
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: root.isActive ? Theme.amberAccent : Blend.tint(Theme.chassisBg, Blend.alpha(Theme.textSecondary, 0.25))
+                color: Blend.between(Blend.tint(Theme.chassisBg, Blend.alpha(Theme.textSecondary, 0.25)), Theme.amberAccent, root.light)
             }
             GradientStop {
                 position: 1
-                color: Blend.tint(Theme.chassisBg, root.isActive ? Blend.alpha(Theme.amberAccent, 0.8) : Blend.alpha(Theme.textSecondary, 0.18))
+                color: Blend.between(Blend.tint(Theme.chassisBg, Blend.alpha(Theme.textSecondary, 0.18)),
+                                     Blend.tint(Theme.chassisBg, Blend.alpha(Theme.amberAccent, 0.8)), root.light)
             }
         }
     }
 
     Label {
+        objectName: "capLabel"
         anchors.centerIn: parent
-        color: root.isActive ? "white" : Blend.alpha(Theme.textPrimary, 0.85)
+        Accessible.ignored: true
+        color: Blend.between(Blend.alpha(Theme.textPrimary, 0.85), "white", root.light)
         elide: Text.ElideNone
         font.family: Theme.monoFace
-        font.weight: root.isActive ? Font.Bold : Font.Medium
+        font.weight: Math.round(Font.Medium + (Font.Bold - Font.Medium) * root.light)
         size: root.labelSize * root.factor
         text: root.label
     }

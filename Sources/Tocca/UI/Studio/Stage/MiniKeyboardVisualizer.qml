@@ -8,8 +8,10 @@ Item {
 
     required property MiniKeyboardViewModel model
     property real factor: 1
+    property bool isSeen: true // caps move
 
     Accessible.name: "Keyboard"
+    Accessible.description: "A picture whose caps light up with the keys that are pressed"
     Accessible.role: Accessible.Graphic
     implicitWidth: model.fullWidth * factor
     implicitHeight: model.fullHeight * factor
@@ -44,6 +46,7 @@ Item {
 
                     MiniKeyCap {
                         factor: root.factor
+                        isSeen: root.isSeen
                         width: row.unit * widthRatio
                         height: root.model.keyHeight * root.factor
                     }

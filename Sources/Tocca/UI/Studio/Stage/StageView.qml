@@ -7,6 +7,7 @@ StudioPage {
 
     required property MainWindowViewModel model
     readonly property StageViewModel stage: model.stage
+    readonly property bool isSeen: visible && Window.visibility !== Window.Hidden && Window.visibility !== Window.Minimized
 
     title: "Keyboard Stage"
     subtitle: "Interactive mechanical keyboard responding in real time to keystrokes in any app."
@@ -20,7 +21,7 @@ StudioPage {
             text: "ACTIVE SOUNDSTAGE"
         }
 
-        Label {
+        NameLabel {
             objectName: "activeSwitch"
             anchors.right: parent.right
             width: Math.min(implicitWidth, 220)
@@ -43,6 +44,7 @@ StudioPage {
             anchors.horizontalCenter: parent.horizontalCenter
             factor: Math.max(1, Math.min(parent.width / model.fullWidth, (root.height - 280) / model.fullHeight, 3.2))
             height: implicitHeight
+            isSeen: root.isSeen
             model: root.stage.keyboard
             width: Math.min(implicitWidth, parent.width)
         }

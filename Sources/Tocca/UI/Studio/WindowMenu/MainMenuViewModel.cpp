@@ -14,6 +14,7 @@ ShownMenuItem shown(const platform::MenuItem& item, const platform::MenuItemStat
             .shortcut = toQString(keyEquivalentText(item.keyEquivalent)),
             .isSeparator = item.action.empty(),
             .isEnabled = state.isEnabled,
+            .isCheckable = item.isCheckable,
             .isChecked = state.isChecked};
 }
 
@@ -24,6 +25,7 @@ MainMenuViewModel::MainMenuViewModel(platform::MainMenu& menu)
     , items_({Items::role<&ShownMenuItem::title>("title"), Items::role<&ShownMenuItem::shortcut>("shortcut"),
               Items::role<&ShownMenuItem::isSeparator>("isSeparator"),
               Items::role<&ShownMenuItem::isEnabled>("isEnabled"),
+              Items::role<&ShownMenuItem::isCheckable>("isCheckable"),
               Items::role<&ShownMenuItem::isChecked>("isChecked")})
     , desktopLink_(menu.onDesktopChange([this] { Q_EMIT desktopChanged(); }))
 {}

@@ -18,6 +18,7 @@ struct ShownMenuItem {
     QString shortcut;
     bool isSeparator = false;
     bool isEnabled = false;
+    bool isCheckable = false;
     bool isChecked = false;
 
     bool operator==(const ShownMenuItem&) const = default;

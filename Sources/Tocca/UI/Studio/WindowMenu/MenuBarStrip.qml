@@ -2,14 +2,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tocca.UI
 
-/// The main menu in a slim bar, for desktops that do not show it themselves. F10 or Alt opens it.
+/// The main menu in a slim bar, for desktops that do not show it themselves. F10 or Alt alone opens it; the Tab key comes to its titles last.
 Rectangle {
     id: root
 
     required property MainMenuViewModel model
     required property Item sheetParent // the open menu covers it
     property Item editing // has the focus back before anything is performed
-    property bool altAlone
+    property int reached // the title that the Tab key comes to
 
     function open(index: int): void {
         if (root.model.openMenu < 0)
@@ -29,21 +29,25 @@ Rectangle {
         root.model.perform(row);
     }
 
+    function toggle(): void {
+        if (root.model.openMenu >= 0)
+            root.close();
+        else if (root.visible)
+            root.open(0);
+    }
+
     /// Whether a key that nothing else took belongs to the menu.
-    function handlePress(key: int, modifiers: int): bool {
-        root.altAlone = key === Qt.Key_Alt && root.visible;
+    function handlePress(key: int, modifiers: int, isRepeated: bool): bool {
         if (key !== Qt.Key_F10 || modifiers !== Qt.NoModifier || !root.visible)
             return false;
-        root.open(0);
+        if (!isRepeated)
+            root.open(0);
         return true;
     }
 
-    function handleRelease(key: int): bool {
-        const opens = key === Qt.Key_Alt && root.altAlone;
-        root.altAlone = false;
-        if (opens)
-            root.open(0);
-        return opens;
+    function goTo(title: int): void {
+        root.reached = (title + titles.count) % titles.count;
+        titles.itemAt(root.reached).forceActiveFocus(Qt.TabFocusReason);
     }
 
     Accessible.role: Accessible.MenuBar
@@ -64,7 +68,10 @@ Rectangle {
                 height: row.height
                 isApplication: index === 0
                 isOpen: root.model.openMenu === index
+                activeFocusOnTab: root.reached === index
                 onPressed: isOpen ? root.close() : root.open(index)
+                onAsked: root.open(index)
+                onStepped: step => root.goTo(index + step)
                 onEntered: if (root.model.openMenu >= 0) root.open(index)
             }
         }
@@ -84,6 +91,7 @@ Rectangle {
         model: root.model.items
         padding: 5
         radius: 9
+        title: root.model.titles[Math.max(0, root.model.openMenu)] ?? ""
         target: titles.itemAt(root.model.openMenu)
         uncovered: root.height
         visible: root.model.openMenu >= 0
@@ -93,6 +101,7 @@ Rectangle {
             required shortcut
             required isSeparator
             required isEnabled
+            required isCheckable
             required isChecked
 
             onChosen: root.perform(index)
@@ -105,8 +114,8 @@ Rectangle {
         Keys.onLeftPressed: root.open(root.model.openMenu - 1)
         Keys.onRightPressed: root.open(root.model.openMenu + 1)
         Keys.onPressed: event => {
-            event.accepted = event.key === Qt.Key_Alt || event.key === Qt.Key_F10;
-            if (event.accepted)
+            event.accepted = event.key === Qt.Key_F10;
+            if (event.accepted && !event.isAutoRepeat)
                 root.close();
         }
     }

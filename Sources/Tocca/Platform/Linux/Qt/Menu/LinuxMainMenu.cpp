@@ -68,7 +68,7 @@ MenuNode LinuxMainMenu::tree()
             const MenuItemState state = validate(item);
             top.children.push_back({.label = QString::fromStdString(item.title),
                                     .isEnabled = state.isEnabled,
-                                    .isCheckable = state.isChecked,
+                                    .isCheckable = item.isCheckable,
                                     .isChecked = state.isChecked,
                                     .shortcut = busShortcut(item.keyEquivalent),
                                     .choose = [this, item] { perform(item); },

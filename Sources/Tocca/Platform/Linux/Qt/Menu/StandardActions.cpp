@@ -57,6 +57,7 @@ bool StandardActions::perform(std::string_view action)
         commands_.showAbout();
     } else if (action == "hide:") {
         windows_.hide();
+        commands_.hidden();
     } else if (action == "hideOtherApplications:") {
         hideOthers();
     } else if (action == "unhideAllApplications:") {

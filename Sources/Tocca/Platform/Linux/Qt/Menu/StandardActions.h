@@ -16,6 +16,7 @@ public:
     struct Commands {
         std::function<void()> showAbout;
         std::function<void()> quit;
+        std::function<void()> hidden; ///< the program has hidden its windows
     };
 
     StandardActions(OwnWindows& windows, Commands commands);

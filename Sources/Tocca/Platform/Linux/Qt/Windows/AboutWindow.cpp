@@ -1,41 +1,59 @@
 #include "Platform/Linux/Qt/Windows/AboutWindow.h"
 
 #include "Platform/Linux/Qt/ApplicationIcon.h"
+#include "Platform/Linux/Qt/Windows/QuickView.h"
 #include "Platform/Linux/Qt/Windows/WindowActivation.h"
 #include "Platform/Linux/Qt/XDesktop.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QQmlComponent>
+#include <QQuickPaintedItem>
 #include <QScreen>
+#include <QUrl>
+
+#include <memory>
 
 namespace tocca::platform::linux {
 
 namespace {
 
 constexpr QSize kSize(320, 272);
-constexpr int kIconSize = 96;
 const QColor kGround(246, 248, 250);
-const QColor kText(28, 32, 38);
-const QColor kQuiet(104, 112, 122);
 
-/// A line of text and where it stands.
-struct Line {
-    QString text;
-    int y;
-    int pixels;
-    QFont::Weight weight;
-    QColor colour;
+/// The program's icon, as large as its parent.
+class IconDrawing final : public QQuickPaintedItem {
+public:
+    explicit IconDrawing(QQuickItem& parent)
+        : QQuickPaintedItem(&parent)
+    {
+        setSize(parent.size());
+    }
+
+    void paint(QPainter* painter) override
+    {
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
+        applicationIcon().paint(painter, boundingRect().toRect());
+    }
 };
 
 } // namespace
 
-AboutWindow::AboutWindow()
+AboutWindow::AboutWindow(OwnWindows& family)
+    : ContentWindow(family, Kind::ordinary)
 {
     setFlags(Qt::Dialog);
     setTitle(QStringLiteral("About Tocca"));
+    setColor(kGround);
     setMinimumSize(kSize);
     setMaximumSize(kSize);
     resize(kSize);
+    setContent(std::make_unique<QuickView>([this](QQuickItem& parent) { return makeContent(parent); }));
+}
+
+AboutWindow::~AboutWindow()
+{
+    setContent(nullptr); // before the engine
 }
 
 void AboutWindow::showInFront()
@@ -47,41 +65,33 @@ void AboutWindow::showInFront()
             frame.moveCenter(place->availableGeometry().center());
             setPosition(frame.topLeft());
         }
-        show();
+        present();
     }
     bringToFront(*this);
 }
 
-void AboutWindow::paintEvent(QPaintEvent* /*event*/)
+QQuickItem* AboutWindow::makeContent(QQuickItem& parent)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.fillRect(QRect({}, size()), kGround);
-    constexpr int kTop = 32;
-    applicationIcon().paint(&painter, QRect((width() - kIconSize) / 2, kTop, kIconSize, kIconSize));
-    const Line lines[] = {
-        // NOLINT(modernize-avoid-c-arrays)
-        {QStringLiteral("Tocca"), 144, 22, QFont::Bold, kText},
-        {QStringLiteral("Version " TOCCA_VERSION), 178, 12, QFont::Normal, kQuiet},
-        {QStringLiteral("The sound of a mechanical keyboard"), 204, 12, QFont::Normal, kText},
-        {QStringLiteral("Free software under the MIT licence"), 226, 11, QFont::Normal, kQuiet}};
-    for (const Line& line : lines) {
-        QFont font(QStringLiteral("Inter"));
-        font.setPixelSize(line.pixels);
-        font.setWeight(line.weight);
-        painter.setFont(font);
-        painter.setPen(line.colour);
-        painter.drawText(QRect(0, line.y, width(), 2 * line.pixels), Qt::AlignHCenter | Qt::AlignTop,
-                         line.text);
+    QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/org.tocca/AboutWindow.qml")));
+    auto* const item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+        {{QStringLiteral("version"), QStringLiteral(TOCCA_VERSION)}, {QStringLiteral("ground"), kGround}}));
+    if (item != nullptr) {
+        item->setParent(&parent);
+        item->setParentItem(&parent);
+        if (auto* const place = item->property("iconPlace").value<QQuickItem*>()) {
+            new IconDrawing(*place); // which owns it
+        }
     }
+    return item;
 }
 
-void AboutWindow::keyPressEvent(QKeyEvent* event)
+bool AboutWindow::handleKey(const QKeyEvent& event)
 {
-    if (event->key() == Qt::Key_Escape ||
-        (event->key() == Qt::Key_W && event->modifiers() == Qt::ControlModifier)) {
+    const bool closes = event.key() == Qt::Key_Escape;
+    if (closes) {
         hide();
     }
+    return closes;
 }
 
 } // namespace tocca::platform::linux

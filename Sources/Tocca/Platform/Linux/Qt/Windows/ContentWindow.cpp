@@ -14,6 +14,7 @@ ContentWindow::ContentWindow(OwnWindows& family, Kind kind)
     : family_(family)
     , kind_(kind)
 {
+    setTitle(QStringLiteral("Tocca")); // what assistive programs call a window that shows no title
     if (kind_ == Kind::ordinary) {
         family_.add(*this);
     }
@@ -38,6 +39,9 @@ void ContentWindow::setContent(std::unique_ptr<View> content)
 
 void ContentWindow::present()
 {
+    if (kind_ == Kind::ordinary) {
+        family_.shown(*this);
+    }
     fitContent();
     setVisible(true);
 }

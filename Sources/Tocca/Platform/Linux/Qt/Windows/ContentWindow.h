@@ -31,7 +31,14 @@ public:
     void setContent(std::unique_ptr<View> content);
 
     /// Makes the content if need be, and shows the window.
-    void present();
+    virtual void present();
+
+    /// Hides the window with the whole program; true when it is one that comes back with it.
+    virtual bool hideWithProgram()
+    {
+        hide();
+        return false;
+    }
 
     /// Whether a person drags something over the window.
     [[nodiscard]] bool isDraggedOver() const noexcept { return isDraggedOver_; }

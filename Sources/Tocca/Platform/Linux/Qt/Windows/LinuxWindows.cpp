@@ -44,15 +44,20 @@ public:
 
     void makeKeyAndOrderFront() override
     {
+        setWindowStates(windowStates() & ~Qt::WindowMinimized);
+        present();
+        bringToFront(*this);
+    }
+
+    void present() override
+    {
         if (!isVisible()) {
             XDesktop::adopt(*this);
             if (place_) {
                 setFramePosition(*place_);
             }
         }
-        setWindowStates(windowStates() & ~Qt::WindowMinimized);
-        present();
-        bringToFront(*this);
+        ContentWindow::present();
     }
 
     void orderOut() override
@@ -61,6 +66,12 @@ public:
             place_ = framePosition();
             hide();
         }
+    }
+
+    bool hideWithProgram() override
+    {
+        orderOut();
+        return true;
     }
 
     [[nodiscard]] bool isVisible() const override { return ContentWindow::isVisible(); }

@@ -26,8 +26,8 @@ void OwnWindows::remove(ContentWindow& window)
 void OwnWindows::hide()
 {
     for (ContentWindow* const window : windows_) {
-        if (window->isVisible()) {
-            window->hide();
+        if (window->isVisible() && window->hideWithProgram()) {
+            std::erase(hidden_, window);
             hidden_.push_back(window);
         }
     }

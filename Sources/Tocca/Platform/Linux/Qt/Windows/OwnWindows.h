@@ -43,9 +43,12 @@ public:
 
     void setDialog(bool isOpen) noexcept { hasDialog_ = isOpen; }
 
-    /// Hides every window that is shown; `showAgain` undoes it.
+    /// Hides every window that is shown; `showAgain` brings those back that were not closed or shown in between.
     void hide();
     void showAgain();
+
+    /// A window is shown, by whomever: it need not come back any more.
+    void shown(ContentWindow& window) { std::erase(hidden_, &window); }
 
 private:
     QObject* listener_ = nullptr;

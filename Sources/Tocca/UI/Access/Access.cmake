@@ -1,0 +1,5 @@
+list(APPEND TOCCA_UI_UNITS
+    Access/Announcement
+    Access/Clipboard
+    Access/FocusKeeper
+    Access/LoneAltKey)
