@@ -95,7 +95,7 @@ struct ImportOnDisk : testing::Test {
     const fs::path packs = root / "packs";
     const fs::path source = root / "downloads/Alps";
     platform::linux::LinuxFiles files;
-    platform::linux::LinuxFileStore store;
+    platform::linux::LinuxFileStore store{platform::linux::HomeTrash(root / "trash")};
 };
 
 /// A small disk of its own at a folder, for as long as a test needs it.
