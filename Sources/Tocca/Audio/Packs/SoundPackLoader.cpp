@@ -2,6 +2,7 @@
 
 #include "Audio/Packs/PackImportError.h"
 #include "Audio/Packs/PackImporter.h"
+#include "Audio/Packs/PackStaging.h"
 #include "Audio/RandomDraws.h"
 #include "Platform/Directories.h"
 #include "Platform/FileStore.h"
@@ -20,6 +21,9 @@ SoundPackLoader::SoundPackLoader(platform::Host& host)
     , library_(host.files, host.fileStore)
 {
     refreshCustomPacks();
+    // Not before the program has come up, so that the start that fails takes nothing from the user.
+    host_.mainQueue.post(lifetime_.guard(
+        [this] { PackStaging::forgetReplaced(host_.files, host_.fileStore, customPacksDirectory()); }));
 }
 
 SoundPackLoader& SoundPackLoader::shared()
