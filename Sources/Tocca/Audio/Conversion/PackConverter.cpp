@@ -15,6 +15,7 @@
 #include <map>
 #include <numeric>
 #include <set>
+#include <sstream>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -138,7 +139,9 @@ std::vector<HeardTake> ofRole(const std::vector<HeardTake>& heard, KeyStrokeActi
 
 std::string twoDigits(std::size_t number)
 {
-    return (number < 10 ? "0" : "") + std::to_string(number);
+    std::array<char, 32> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%02zu", number);
+    return {text.data(), static_cast<std::size_t>(length)};
 }
 
 std::string decimal(double value)
@@ -281,45 +284,52 @@ std::string Conversion::description() const
     for (const ChosenStrike& strike : chosen) {
         ++counts.at(strike.slot.index());
     }
-    std::string text = "Imported from " + format + " •";
+    std::ostringstream text;
+    text << "Imported from " << format << " •";
     std::size_t releases = 0;
     for (std::size_t i = 0; i < counts.size(); ++i) {
         if (i >= kNames.size()) {
             releases += counts.at(i);
         } else if (counts.at(i) > 0) {
-            text += " " + std::to_string(counts.at(i)) + " " + std::string(kNames.at(i)) + ",";
+            text << ' ' << counts.at(i) << ' ' << kNames.at(i) << ',';
         }
     }
-    return text + (releases > 0 ? " " + std::to_string(releases) + " releases" : " no releases");
+    if (releases > 0) {
+        text << ' ' << releases << " releases";
+    } else {
+        text << " no releases";
+    }
+    return text.str();
 }
 
 std::string Conversion::report() const
 {
-    std::string text = displayText(name) + "\nRead as: " + format + "\nAll sounds changed by " +
-                       decimal(20 * std::log10(gain)) +
-                       " dB, for the loudness of the built-in packs.\n\nUsed\n";
+    std::ostringstream text;
+    text << displayText(name) << "\nRead as: " << format << "\nAll sounds changed by "
+         << decimal(20 * std::log10(gain)) << " dB, for the loudness of the built-in packs.\n\nUsed\n";
     for (const ChosenStrike& strike : chosen) {
-        text += "  " + strike.fileName + "  " + displayText(strike.take.key) + ", " +
-                displayText(strike.take.file);
+        text << "  " << strike.fileName << "  " << displayText(strike.take.key) << ", "
+             << displayText(strike.take.file);
         if (strike.take.slice) {
-            text += " at " + decimal(strike.take.slice->startMs) + " ms";
+            text << " at " << decimal(strike.take.slice->startMs) << " ms";
         }
-        text +=
-            ", " + decimal(strike.strike.seconds * 1e3) + " ms, " + decimal(strike.strike.lufs) + " LUFS\n";
+        text << ", " << decimal(strike.strike.seconds * 1e3) << " ms, " << decimal(strike.strike.lufs)
+             << " LUFS\n";
     }
     if (!remarks.empty()) {
-        text += "\nNot used\n";
+        text << "\nNot used\n";
         for (std::size_t i = 0; i < std::min(remarks.size(), kMostRemarks); ++i) {
-            text += "  " + displayText(remarks[i]) + "\n";
+            text << "  " << displayText(remarks[i]) << '\n';
         }
         if (remarks.size() > kMostRemarks) {
-            text += "  and " + std::to_string(remarks.size() - kMostRemarks) + " more\n";
+            text << "  and " << remarks.size() - kMostRemarks << " more\n";
         }
     }
     if (!hasReleases) {
-        text += "\nThe pack has no sounds for keys that come up, so they are silent.\n";
+        text << "\nThe pack has no sounds for keys that come up, so they are silent.\n";
     }
-    return text + "\nEverything that came is in the folder “original”.\n";
+    text << "\nEverything that came is in the folder “original”.\n";
+    return text.str();
 }
 
 } // namespace tocca::audio

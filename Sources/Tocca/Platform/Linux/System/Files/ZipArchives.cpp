@@ -5,6 +5,7 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <locale.h> // NOLINT(modernize-deprecated-headers): uselocale
 
 namespace tocca::platform::linux {
 
@@ -39,6 +40,30 @@ ArchiveEntry::Kind kindOf(::archive_entry* entry)
     }
 }
 
+/// Lets the calling thread hold any name for a scope; in a locale without UTF-8 the library drops those that it cannot convert.
+class Utf8Names {
+public:
+    Utf8Names()
+        : locale_(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr))
+        , previous_(locale_ != nullptr ? ::uselocale(locale_) : nullptr)
+    {}
+
+    Utf8Names(const Utf8Names&) = delete;
+    Utf8Names& operator=(const Utf8Names&) = delete;
+
+    ~Utf8Names()
+    {
+        if (locale_ != nullptr) {
+            ::uselocale(previous_);
+            ::freelocale(locale_);
+        }
+    }
+
+private:
+    ::locale_t locale_;
+    ::locale_t previous_;
+};
+
 /// The bytes of a name; where the locale cannot hold it, the library has it in UTF-8 alone.
 std::string pathOf(::archive_entry* entry)
 {
@@ -58,6 +83,7 @@ public:
 
     Result<std::optional<ArchiveEntry>> next() override
     {
+        const Utf8Names names;
         ::archive_entry* entry = nullptr;
         const int result = ::archive_read_next_header(opened_.get(), &entry);
         if (result == ARCHIVE_EOF) {
@@ -90,6 +116,7 @@ private:
 
 Result<std::unique_ptr<Archive>> ZipArchives::open(const SharedBytes& bytes) const
 {
+    const Utf8Names names;
     Handle opened(::archive_read_new());
     if (opened == nullptr) {
         return Error{"there is not enough memory"};
