@@ -212,6 +212,7 @@ TEST_F(MenuBarViewTest, ButtonsDoWhatTheySay)
     EXPECT_FALSE(has("importProgress"));
     machine.host.openPanels().answer("/downloads/Alps");
     EXPECT_EQ(text("importActivity"), "Importing “Alps”…");
+    settle();
     click("cancelImport");
     machine.host.settle();
     EXPECT_EQ(text("importMessage"), "Failed to import: cancelled");

@@ -60,6 +60,7 @@ Section {
         id: progress
         width: root.width
         model: root.model
+        onYChanged: if (visible) root.imported(progress)
     }
 
     Label {
