@@ -58,6 +58,7 @@ app_module(tocca_core
         Audio/RandomDraws.h
         Audio/Conversion/ConversionPlan.h
         Audio/Conversion/ImportWatch.h
+        Audio/Conversion/Refusal.h
         Audio/Packs/PackImportError.h
         Audio/Packs/SoundPackInfo.h
         Keyboard/Debouncer.h

@@ -110,6 +110,29 @@ TEST(PackIntake, TellsHowFarItIsAndStopsWhenAsked)
     }
 }
 
+TEST(PackIntake, LeavesTheImportAsManyStepsHoweverLargeThePackIs)
+{
+    std::vector<int> steps;
+    for (const int fileCount : {3, 300}) {
+        ConversionMachine machine;
+        machine.host.files().write(machine.packs / "Board/press.wav", "installed");
+        for (int i = 0; i < fileCount; ++i) {
+            machine.write("Board/press_" + std::to_string(i) + ".wav", "x");
+        }
+        ASSERT_TRUE(machine.prepare("Board"));
+        int count = 0;
+        const auto counted = [&] {
+            ++count;
+            return false;
+        };
+        const platform::FaultyFiles files(machine.host.files(), counted);
+        platform::FaultyFileStore store(machine.host.files(), machine.host.fileStore(), counted);
+        ASSERT_TRUE(PackImporter(files, store).import(machine.prepared.value().path, machine.packs));
+        steps.push_back(count);
+    }
+    EXPECT_EQ(steps[0], steps[1]);
+}
+
 TEST(PackIntake, LeavesTheInstalledPacksAloneWhicheverStepFails)
 {
     for (const bool isArchive : {false, true}) {

@@ -14,7 +14,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <iomanip>
+#include <span>
 #include <sstream>
 #include <stdexcept>
 #include <system_error>

@@ -14,8 +14,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <optional>
 #include <utility>
+#include <variant>
 
 #include <sndfile.h>
 

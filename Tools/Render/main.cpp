@@ -1,12 +1,15 @@
 #include "Render/Rendering.h"
 
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include "Platform/FileStore.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -16,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using platform::ArchiveEntry;
 
-Error refusal(const ArchiveEntry& entry, const std::string& reason)
+Error entryRefusal(const ArchiveEntry& entry, const std::string& reason)
 {
     return {"“" + entry.path + "” in the archive " + reason};
 }
@@ -28,13 +29,13 @@ Result<fs::path> placeOf(const ArchiveEntry& entry)
     std::replace(path.begin(), path.end(), '\\', '/');
     const bool hasDrive = path.size() >= 2 && path[1] == ':';
     if (path.starts_with('/') || hasDrive) {
-        return refusal(entry, "has an absolute path");
+        return entryRefusal(entry, "has an absolute path");
     }
     fs::path place;
     int depth = 0;
     for (const fs::path& part : fs::path(path)) {
         if (part == "..") {
-            return refusal(entry, "leads out of it");
+            return entryRefusal(entry, "leads out of it");
         }
         if (SourceTree::isDebris(part.native())) {
             return fs::path();
@@ -45,7 +46,7 @@ Result<fs::path> placeOf(const ArchiveEntry& entry)
         }
     }
     if (depth > SourceTree::kDeepestFolder) {
-        return refusal(entry, "is too deep in its folder");
+        return entryRefusal(entry, "is too deep in its folder");
     }
     return place;
 }
@@ -63,11 +64,11 @@ Result<std::vector<std::byte>> contents(platform::Archive& archive, const Archiv
         bytes.resize(before + kChunk);
         const auto count = archive.read(std::span(bytes).subspan(before));
         if (!count) {
-            return refusal(entry, "cannot be read: " + count.error().describe());
+            return entryRefusal(entry, "cannot be read: " + count.error().describe());
         }
         bytes.resize(before + count.value());
         if (bytes.size() > ArchiveLimits::kLargestFile) {
-            return refusal(entry, "is larger than 32 MB");
+            return entryRefusal(entry, "is larger than 32 MB");
         }
         if (bytes.size() > bytesLeft) {
             return Error{"the archive holds more than 64 MB"};
@@ -108,7 +109,7 @@ Outcome unpack(platform::Archive& archive, platform::FileStore& store, const fs:
             return Error{"the archive is encrypted"};
         }
         if (entry.kind == ArchiveEntry::Kind::Link || entry.kind == ArchiveEntry::Kind::Special) {
-            return refusal(entry, "is neither a file nor a folder");
+            return entryRefusal(entry, "is neither a file nor a folder");
         }
         const fs::path path = folder / place.value();
         const bool isFile = entry.kind == ArchiveEntry::Kind::File;

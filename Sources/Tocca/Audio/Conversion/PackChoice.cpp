@@ -2,6 +2,7 @@
 
 #include "Audio/Conversion/Formats/Formats.h"
 
+#include <iterator>
 #include <utility>
 #include <vector>
 

@@ -11,10 +11,14 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
+#include <initializer_list>
+#include <iterator>
 #include <map>
 #include <numeric>
 #include <set>
+#include <span>
 #include <sstream>
 #include <string_view>
 #include <tuple>

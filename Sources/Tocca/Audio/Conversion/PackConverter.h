@@ -7,6 +7,7 @@
 #include "Audio/SoundSlot.h"
 #include "Support/Result.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "Audio/Conversion/ArchiveUnpacking.h"
 #include "Audio/Conversion/Formats/Formats.h"
 #include "Audio/Conversion/PackConverter.h"
+#include "Audio/Conversion/Refusal.h"
 #include "Audio/Packs/PackImporter.h"
 #include "Platform/Archives.h"
 #include "Platform/FileStore.h"
@@ -13,6 +14,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <initializer_list>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <variant>
@@ -26,11 +30,6 @@ using platform::FileKind;
 namespace {
 
 constexpr const char* kOriginal = "original"; // the folder of what came, in a converted pack
-
-Error refusal(const fs::path& path, const std::string& reason)
-{
-    return {"“" + path.filename().string() + "” " + reason};
-}
 
 bool endsWithAny(const fs::path& path, std::initializer_list<std::string_view> endings)
 {
@@ -95,7 +94,7 @@ Result<PreparedPack> PackIntake::prepare(const fs::path& source, const fs::path&
 Outcome PackIntake::prepareFile(const fs::path& source, PackStaging& staging, const ImportWatch& watch)
 {
     if (endsWithAny(source, {".rar", ".7z", ".tar", ".gz", ".tgz", ".bz2", ".xz", ".zst"})) {
-        return refusal(source, "is an archive of a kind that is not read; unpack it and import the folder");
+        return refusalOf(source, "is an archive of a kind that is not read; unpack it and import the folder");
     }
     if (!isArchive(source)) {
         const auto status = store_.status(source);
@@ -103,7 +102,7 @@ Outcome PackIntake::prepareFile(const fs::path& source, PackStaging& staging, co
             return status.error();
         }
         return status.value().byteCount > SourceTree::kMostBytes
-                   ? Outcome(refusal(source, "is larger than 512 MB"))
+                   ? Outcome(refusalOf(source, "is larger than 512 MB"))
                    : store_.copyEntry(source, staging.newPack());
     }
     const fs::path folder = staging.workFolder();
@@ -116,7 +115,7 @@ Outcome PackIntake::prepareFile(const fs::path& source, PackStaging& staging, co
     }
     const std::string name = source.filename().string();
     if (!holdsSounds(tree.value())) {
-        return refusal(source, "holds no sounds");
+        return refusalOf(source, "holds no sounds");
     }
     const auto choice = choosePack(tree.value(), name);
     if (!choice) {
@@ -126,7 +125,7 @@ Outcome PackIntake::prepareFile(const fs::path& source, PackStaging& staging, co
         return convert(choice.value(), tree.value(), name, staging, true, watch);
     }
     if (!choice.value().isKnown) {
-        return refusal(source, "is no sound pack of a kind that is known");
+        return refusalOf(source, "is no sound pack of a kind that is known");
     }
     return store_.move(choice.value().tree.root(), staging.newPack());
 }
@@ -166,7 +165,7 @@ Outcome PackIntake::unpackTo(const fs::path& archive, const fs::path& folder, co
     }
     auto opened = archives_.open(bytes.value());
     if (!opened) {
-        return refusal(archive, "cannot be read: " + opened.error().describe());
+        return refusalOf(archive, "cannot be read: " + opened.error().describe());
     }
     if (auto made = store_.makeDirectories(folder); !made) {
         return made;

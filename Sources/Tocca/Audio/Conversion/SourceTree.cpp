@@ -1,10 +1,12 @@
 #include "Audio/Conversion/SourceTree.h"
 
+#include "Audio/Conversion/Refusal.h"
 #include "Platform/Files.h"
 #include "Support/LowerCase.h"
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 namespace tocca::audio {
 
@@ -12,11 +14,6 @@ namespace fs = std::filesystem;
 using platform::FileKind;
 
 namespace {
-
-Error refusal(const fs::path& path, const std::string& reason)
-{
-    return {"“" + path.filename().string() + "” " + reason};
-}
 
 struct Reading {
     const platform::Files& files;
@@ -37,10 +34,10 @@ struct Reading {
         }
         bytes += status.value().byteCount;
         if (bytes > SourceTree::kMostBytes) {
-            return refusal(root, "is larger than 512 MB");
+            return refusalOf(root, "is larger than 512 MB");
         }
         if (entries.size() == SourceTree::kMostEntries) {
-            return refusal(root, "holds more than 20,000 files");
+            return refusalOf(root, "holds more than 20,000 files");
         }
         entries.push_back({.path = path, .kind = status.value().kind});
         return status.value().kind == FileKind::Directory ? addContents(path, depth + 1)
@@ -53,14 +50,14 @@ struct Reading {
             return Error{"cancelled"};
         }
         if (depth > SourceTree::kDeepestFolder) {
-            return refusal(folder, "is too deep in its folder");
+            return refusalOf(folder, "is too deep in its folder");
         }
         auto names = files.list(root / folder);
         if (!names) {
             return names.error();
         }
         if (names.value().size() > SourceTree::kMostEntries) {
-            return refusal(root, "holds more than 20,000 files");
+            return refusalOf(root, "holds more than 20,000 files");
         }
         std::sort(names.value().begin(), names.value().end());
         for (const std::string& name : names.value()) {

@@ -3,6 +3,7 @@
 #include "Platform/FileStore.h"
 #include "Support/Result.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -10,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tocca::platform {

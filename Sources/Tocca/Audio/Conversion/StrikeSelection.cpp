@@ -13,7 +13,7 @@ namespace tocca::audio {
 namespace {
 
 constexpr double kFarthestLu = 12.0;
-constexpr double kLongestSeconds = 0.6;
+constexpr double kLongestStrike = 0.6;
 
 double medianLoudness(const std::vector<HeardTake>& takes)
 {
@@ -66,7 +66,7 @@ std::vector<HeardTake> alike(std::vector<HeardTake> takes, std::size_t most,
         takes, [&](const HeardTake& heard) { return !heardBefore.insert(heard.strike.content).second; },
         "it sounds the same as another key", remarks);
     leaveOut(
-        takes, [](const HeardTake& heard) { return heard.strike.seconds > kLongestSeconds; },
+        takes, [](const HeardTake& heard) { return heard.strike.seconds > kLongestStrike; },
         "it lasts longer than 0.6 s", remarks);
     const double middle = medianLoudness(takes);
     const auto distance = [middle](const HeardTake& heard) { return std::abs(heard.strike.lufs - middle); };

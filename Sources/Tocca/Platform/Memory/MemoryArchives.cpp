@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
 #include <string_view>
 
 namespace tocca::platform::memory {

@@ -3,11 +3,15 @@
 #include "Audio/Conversion/ConversionPlan.h"
 #include "Audio/Conversion/SourceTree.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
 /// The layouts of foreign packs. Each function looks for one and says what it has found, or nothing.
 namespace tocca::audio::formats {
+
+/// A larger description is not read. Units: bytes.
+inline constexpr std::size_t kLargestDescription = std::size_t{4} << 20U;
 
 /// `config.json` with times or a file for each scan code.
 [[nodiscard]] std::optional<ConversionPlan> keyDefinitions(const SourceTree& tree);

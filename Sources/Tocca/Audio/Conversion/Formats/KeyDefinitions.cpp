@@ -4,15 +4,16 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tocca::audio::formats {
 
 namespace {
-
-constexpr std::size_t kLargestDescription = std::size_t{4} << 20U;
 
 struct Key {
     std::uint32_t code;

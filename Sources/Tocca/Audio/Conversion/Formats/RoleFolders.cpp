@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace tocca::audio::formats {
 

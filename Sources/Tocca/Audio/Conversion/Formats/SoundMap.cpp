@@ -3,13 +3,13 @@
 
 #include "Support/LowerCase.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 namespace tocca::audio::formats {
 
 namespace {
-
-constexpr std::size_t kLargestDescription = std::size_t{4} << 20U;
 
 /// A file, or several of which one is picked.
 void add(ConversionPlan& plan, const SourceTree& tree, const Json::Value& files, const Take& take)

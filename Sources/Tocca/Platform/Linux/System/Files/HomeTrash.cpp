@@ -9,6 +9,8 @@
 #include <ctime>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <variant>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,7 +22,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string escaped(std::string_view path)
+std::string percentEncoded(std::string_view path)
 {
     constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
     constexpr std::string_view kDigits = "0123456789ABCDEF";
@@ -36,7 +38,7 @@ std::string escaped(std::string_view path)
     return text;
 }
 
-std::string now()
+std::string deletionDate()
 {
     const std::time_t seconds = std::time(nullptr);
     std::tm local{};
@@ -65,7 +67,7 @@ Outcome HomeTrash::put(const fs::path& path, const fs::path& original) const
         }
     }
     const std::string note =
-        "[Trash Info]\nPath=" + escaped(original.native()) + "\nDeletionDate=" + now() + "\n";
+        "[Trash Info]\nPath=" + percentEncoded(original.native()) + "\nDeletionDate=" + deletionDate() + "\n";
     constexpr int kMostOfOneName = 10000;
     for (int number = 1; number <= kMostOfOneName; ++number) {
         // The note is made first and takes the name, so that two programs never choose the same.

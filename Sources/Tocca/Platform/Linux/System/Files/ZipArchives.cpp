@@ -1,5 +1,9 @@
 #include "Platform/Linux/System/Files/ZipArchives.h"
 
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -15,9 +19,9 @@ struct Closing {
     void operator()(::archive* opened) const { ::archive_read_free(opened); }
 };
 
-using Handle = std::unique_ptr<::archive, Closing>;
+using ArchiveHandle = std::unique_ptr<::archive, Closing>;
 
-Error failure(::archive* opened)
+Error archiveError(::archive* opened)
 {
     const char* const reason = ::archive_error_string(opened);
     return {reason != nullptr ? reason : "the archive is damaged"};
@@ -76,7 +80,7 @@ std::string pathOf(::archive_entry* entry)
 
 class ZipArchive final : public Archive {
 public:
-    ZipArchive(SharedBytes bytes, Handle opened)
+    ZipArchive(SharedBytes bytes, ArchiveHandle opened)
         : bytes_(std::move(bytes))
         , opened_(std::move(opened))
     {}
@@ -91,7 +95,7 @@ public:
         }
         // A warning is about a name that the locale cannot hold, or about attributes that nobody wants here.
         if (result < ARCHIVE_WARN) {
-            return failure(opened_.get());
+            return archiveError(opened_.get());
         }
         return std::optional(ArchiveEntry{.path = pathOf(entry),
                                           .kind = kindOf(entry),
@@ -102,14 +106,14 @@ public:
     {
         const auto count = ::archive_read_data(opened_.get(), into.data(), into.size());
         if (count < 0) {
-            return failure(opened_.get());
+            return archiveError(opened_.get());
         }
         return static_cast<std::size_t>(count);
     }
 
 private:
     const SharedBytes bytes_; // outlives the handle, which reads from it
-    const Handle opened_;
+    const ArchiveHandle opened_;
 };
 
 } // namespace
@@ -117,13 +121,13 @@ private:
 Result<std::unique_ptr<Archive>> ZipArchives::open(const SharedBytes& bytes) const
 {
     const Utf8Names names;
-    Handle opened(::archive_read_new());
+    ArchiveHandle opened(::archive_read_new());
     if (opened == nullptr) {
         return Error{"there is not enough memory"};
     }
     if (::archive_read_support_format_zip_seekable(opened.get()) != ARCHIVE_OK ||
         ::archive_read_open_memory(opened.get(), bytes->data(), bytes->size()) != ARCHIVE_OK) {
-        return failure(opened.get());
+        return archiveError(opened.get());
     }
     return std::unique_ptr<Archive>(std::make_unique<ZipArchive>(bytes, std::move(opened)));
 }
