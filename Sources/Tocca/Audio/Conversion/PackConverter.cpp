@@ -119,6 +119,7 @@ Result<std::vector<HeardTake>> listen(Recordings& recordings, const std::vector<
     }
     std::sort(heard.begin(), heard.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<HeardTake> result;
+    result.reserve(heard.size());
     for (auto& [index, take] : heard) {
         result.push_back(std::move(take));
     }

@@ -74,7 +74,7 @@ Result<PreparedPack> PackIntake::prepare(const fs::path& source, const fs::path&
     const PackSource& found = checked.value();
     PreparedPack prepared{.staging = std::make_unique<PackStaging>(files_, store_, packs, found.fileName),
                           .path = {}};
-    PackStaging& staging = *prepared.staging;
+    PackStaging& staging = *prepared.staging; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): its owner is moved out
     if (const auto opened = staging.open(); !opened) {
         return opened.error();
     }

@@ -64,7 +64,7 @@ struct Reading {
             if (SourceTree::isDebris(name)) {
                 continue;
             }
-            if (auto added = add(folder.empty() ? name : folder + "/" + name, depth); !added) {
+            if (auto added = add((fs::path(folder) / name).string(), depth); !added) {
                 return added;
             }
         }

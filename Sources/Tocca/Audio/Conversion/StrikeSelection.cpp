@@ -18,6 +18,7 @@ constexpr double kLongestStrike = 0.6;
 double medianLoudness(const std::vector<HeardTake>& takes)
 {
     std::vector<double> values;
+    values.reserve(takes.size());
     for (const HeardTake& heard : takes) {
         values.push_back(heard.strike.lufs);
     }
@@ -29,6 +30,7 @@ void leaveOut(std::vector<HeardTake>& takes, const std::function<bool(const Hear
               const char* reason, std::vector<std::string>& remarks)
 {
     std::vector<bool> outs;
+    outs.reserve(takes.size());
     for (const HeardTake& heard : takes) {
         outs.push_back(isOut(heard));
     }
