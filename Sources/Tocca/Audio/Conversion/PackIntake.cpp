@@ -74,7 +74,7 @@ Result<PreparedPack> PackIntake::prepare(const fs::path& source, const fs::path&
     const PackSource& found = checked.value();
     PreparedPack prepared{.staging = std::make_unique<PackStaging>(files_, store_, packs, found.fileName),
                           .path = {}};
-    PackStaging& staging = *prepared.staging; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): its owner is moved out
+    PackStaging& staging = *prepared.staging;
     if (const auto opened = staging.open(); !opened) {
         return opened.error();
     }
@@ -89,7 +89,7 @@ Result<PreparedPack> PackIntake::prepare(const fs::path& source, const fs::path&
     }
     prepared.path = staging.newPack();
     return prepared;
-}
+} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the folder's owner was moved out
 
 Outcome PackIntake::prepareFile(const fs::path& source, PackStaging& staging, const ImportWatch& watch)
 {
