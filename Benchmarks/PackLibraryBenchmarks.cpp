@@ -87,7 +87,7 @@ void importPackOnDisk(benchmark::State& state)
                                                std::string(kRecordingSize, 'x'));
     }
     const platform::linux::LinuxFiles files;
-    platform::linux::LinuxFileStore store;
+    platform::linux::LinuxFileStore store{platform::linux::HomeTrash(directory.path() / "trash")};
     for (auto _ : state) {
         if (!PackImporter(files, store).import(source, library)) {
             state.SkipWithError("the import failed");

@@ -1,4 +1,6 @@
+find_package(PkgConfig REQUIRED)
 find_package(simdjson REQUIRED)
+pkg_check_modules(jsoncpp REQUIRED IMPORTED_TARGET jsoncpp)
 
 app_module(tocca_core
     UNITS
@@ -14,6 +16,17 @@ app_module(tocca_core
         Audio/SoundProfile
         Audio/SoundSlot
         Audio/StrokeShaping
+        Audio/WavImage
+        Audio/Conversion/ArchiveUnpacking
+        Audio/Conversion/ForeignJson
+        Audio/Conversion/KeyRole
+        Audio/Conversion/PackChoice
+        Audio/Conversion/PackConverter
+        Audio/Conversion/PackIntake
+        Audio/Conversion/SourceTree
+        Audio/Conversion/Strike
+        Audio/Conversion/StrikeSelection
+        Audio/Conversion/Formats/Formats
         Audio/Packs/PackImporter
         Audio/Packs/PackLibrary
         Audio/Packs/PackManifest
@@ -34,11 +47,18 @@ app_module(tocca_core
         UI/Studio/WindowMenu/KeyEquivalentText
         UI/Underglow/SpatialUnderglowController
         UI/Underglow/UnderglowTheme
+    SOURCES
+        Audio/Conversion/Formats/KeyDefinitions.cpp
+        Audio/Conversion/Formats/RoleFolders.cpp
+        Audio/Conversion/Formats/SoundMap.cpp
     HEADERS
         Audio/AudioSettings.h
         Audio/CatalogueCase.h
         Audio/PlayerPool.h
         Audio/RandomDraws.h
+        Audio/Conversion/ConversionPlan.h
+        Audio/Conversion/ImportWatch.h
+        Audio/Conversion/Refusal.h
         Audio/Packs/PackImportError.h
         Audio/Packs/SoundPackInfo.h
         Keyboard/Debouncer.h
@@ -48,5 +68,5 @@ app_module(tocca_core
         UI/NotchHUD/Waveform.h
         UI/Underglow/Glow.h
     DEPENDS tocca_platform
-    PRIVATE_DEPENDS simdjson::simdjson)
+    PRIVATE_DEPENDS PkgConfig::jsoncpp simdjson::simdjson)
 app_precompile(tocca_core <algorithm> <filesystem> <functional> <map> <memory> <optional> <string> <vector>)

@@ -30,7 +30,7 @@ INTERFACES = {"Desktop"}
 # Headers of libraries and of the processor that a layer may use besides the standard library's.
 FOREIGN = {
     "Support": {"unicode/normalizer2.h", "unicode/uchar.h", "unicode/unistr.h"},
-    "Audio": {"simdjson.h"},
+    "Audio": {"json/json.h", "simdjson.h"},
     "Player": {"mpg123.h", "sndfile.h", "soxr.h", "immintrin.h", "xmmintrin.h"},
 }
 UNRESTRICTED = {"Platform/Linux", "UI/views", "main"}

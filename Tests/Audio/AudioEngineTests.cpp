@@ -259,6 +259,27 @@ TEST_F(AudioEngineTest, UsesTheSettingsOfTheMomentOfTheStroke)
     EXPECT_EQ(textOf(*sounds()[1]->data), "nk-cream press");
 }
 
+TEST_F(AudioEngineTest, TellsOfABadFileOnceAndForgetsPacksThatAreNoLongerSelected)
+{
+    host.audioPlayers().setUndecodable("holy-panda press", "not audio");
+    for (int i = 0; i < 3; ++i) {
+        press(kA);
+    }
+    EXPECT_THAT(host.standardOutput().lines, testing::ElementsAre("Failed to play audio sample: not audio"));
+
+    const auto readsOf = [this](SwitchType type) {
+        engine.currentSwitchType.set(type);
+        host.settle();
+        const int before = host.files().accessCount();
+        press(kSpace);
+        return host.files().accessCount() - before;
+    };
+    EXPECT_EQ(readsOf(SwitchType::holyPanda), 0);
+    EXPECT_GT(readsOf(SwitchType::nkCream), 0);
+    EXPECT_EQ(readsOf(SwitchType::nkCream), 0);
+    EXPECT_GT(readsOf(SwitchType::holyPanda), 0);
+}
+
 TEST_F(AudioEngineTest, ReplacesTheOldestOfThirtySixSlotsAndIgnoresFailures)
 {
     for (int i = 0; i < 36; ++i) {

@@ -1,10 +1,12 @@
 #include "Audio/ImportMachine.h"
 #include "Audio/Packs/PackImporter.h"
+#include "Audio/Packs/PackStaging.h"
 #include "Platform/FaultyFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -21,6 +23,7 @@ struct Row {
     bool canExchange;
     bool hasOldPack = true;
     bool newPackIsRemovedByHand = false; ///< before anybody has cleared up
+    bool hasTrash = true;
 };
 
 /// Imports with the Nth step failing and looks at the disk when it works again; returns whether any step has failed.
@@ -31,6 +34,7 @@ bool importWithFault(const Row& row, int step)
     if (!row.hasOldPack) {
         static_cast<void>(disk.fileStore().removeTree(kPacks / "Alps"));
     }
+    disk.fileStore().hasTrash = row.hasTrash;
     FailAfter fault(step, row.then);
     platform::FaultyFiles files(disk.files(), std::ref(fault));
     platform::FaultyFileStore store(disk.files(), disk.fileStore(), std::ref(fault));
@@ -51,6 +55,13 @@ bool importWithFault(const Row& row, int step)
         EXPECT_EQ(found, row.hasOldPack ? kOldPack : FolderContents{});
     }
     EXPECT_EQ(ids, found.empty() ? std::vector<std::string>{} : std::vector<std::string>{"custom_Alps"});
+    const auto trash = machine.contents(platform::memory::MemoryFileStore::kTrash);
+    FolderContents kept = machine.contents(kPacks);
+    kept.insert(trash.begin(), trash.end());
+    const bool isOldKept =
+        std::any_of(kept.begin(), kept.end(), [](const auto& entry) { return entry.second == "old deep"; });
+    EXPECT_EQ(isOldKept, row.hasOldPack) << "what was replaced must be there to be taken back";
+    PackStaging::forgetReplaced(disk.files(), disk.fileStore(), kPacks);
     EXPECT_EQ(disk.files().list(kPacks).value().size(), ids.size()) << "something was left behind";
     EXPECT_TRUE(isImported || fault.hasFailed());
     return fault.hasFailed();
@@ -61,6 +72,11 @@ TEST(PackImportUnderFaults, LeavesTheOldPackOrTheNewOneWholeWhicheverStepFails)
     constexpr Row kRows[] = {
         {"exchange, one fault", ThenWorks::Everything, true},
         {"exchange, crash", ThenWorks::Nothing, true},
+        {.name = "no trash", .then = ThenWorks::Everything, .canExchange = true, .hasTrash = false},
+        {.name = "no trash, two steps, crash",
+         .then = ThenWorks::Nothing,
+         .canExchange = false,
+         .hasTrash = false},
         {"exchange, crash, removal", ThenWorks::Nothing, true, true, true},
         {"two steps, one fault", ThenWorks::Everything, false},
         {"two steps, crash", ThenWorks::Nothing, false},
@@ -101,6 +117,7 @@ TEST(PackImportUnderFaults, PutsTheOldPackBackWhicheverStepOfThatFails)
 
             EXPECT_EQ(machine.listedIds(), std::vector<std::string>{"custom_Alps"});
             EXPECT_EQ(machine.contents(kPacks / "Alps"), kOldPack);
+            PackStaging::forgetReplaced(disk.files(), disk.fileStore(), kPacks);
             EXPECT_EQ(disk.files().list(kPacks).value().size(), 1U) << "something was left behind";
         }
     }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <optional>
 #include <set>
 #include <string>
@@ -127,6 +128,32 @@ TEST_F(SoundPackLoaderTest, LeavesOutWhatItCannotRead)
     const PackTable& table = loader.loadPack("custom_p", "/packs/p");
     EXPECT_EQ(table[SoundSlot(KeyStrokeAction::down, SoundSlot::standard).index()].size(), 1U);
     EXPECT_EQ(sampled(KeyCategory::standard, KeyStrokeAction::down), "good");
+}
+
+TEST_F(SoundPackLoaderTest, KeepsOnlySoMuchOfAPackButPlaysAllOfIt)
+{
+    constexpr std::size_t kFiles = 12;
+    host.files().write("/packs/p/0.wav", std::string(SoundPackLoader::kLargestFile, 'x'));
+    for (std::size_t i = 1; i < kFiles; ++i) {
+        ASSERT_TRUE(host.fileStore().copyEntry("/packs/p/0.wav", "/packs/p/" + std::to_string(i) + ".wav"));
+    }
+    const auto& variants = loader.loadPack(
+        "custom_p", "/packs/p")[SoundSlot(KeyStrokeAction::down, SoundSlot::standard).index()];
+    ASSERT_EQ(variants.size(), kFiles);
+    std::set<std::size_t> seen;
+    for (int draw = 0; draw < 200; ++draw) {
+        ASSERT_NE(loader.sample("/packs/p", "custom_p", KeyCategory::standard, KeyStrokeAction::down),
+                  nullptr);
+        std::size_t inMemory = 0;
+        for (std::size_t i = 0; i < kFiles; ++i) {
+            if (variants[i]) {
+                seen.insert(i);
+                ++inMemory;
+            }
+        }
+        ASSERT_EQ(inMemory * SoundPackLoader::kLargestFile, SoundPackLoader::kMostBytes);
+    }
+    EXPECT_EQ(seen.size(), kFiles);
 }
 
 TEST_F(SoundPackLoaderTest, LooksForTheBuiltInPacksInAFixedOrderOnEveryCall)

@@ -3,7 +3,9 @@
 #include "Platform/FileStore.h"
 #include "Platform/Files.h"
 
+#include <cstddef>
 #include <functional>
+#include <span>
 #include <utility>
 
 namespace tocca::platform {
@@ -92,6 +94,16 @@ public:
     Outcome copyEntry(const std::filesystem::path& from, const std::filesystem::path& to) override
     {
         return fails_() ? failure() : real_.copyEntry(from, to);
+    }
+
+    Outcome writeFile(const std::filesystem::path& to, std::span<const std::byte> bytes) override
+    {
+        return fails_() ? failure() : real_.writeFile(to, bytes);
+    }
+
+    Outcome moveToTrash(const std::filesystem::path& path, const std::filesystem::path& original) override
+    {
+        return fails_() ? failure() : real_.moveToTrash(path, original);
     }
 
     Outcome move(const std::filesystem::path& from, const std::filesystem::path& to) override

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
+#include <span>
 #include <string>
 
 namespace tocca::platform {
@@ -196,8 +197,36 @@ TYPED_TEST_P(FileStoreConformance, RemovesTreesButNotWhatLinksLeadTo)
     EXPECT_EQ(this->read("kept/inner"), "x");
 }
 
-REGISTER_TYPED_TEST_SUITE_P(FileStoreConformance, TellsWhatIsAtAPathAndWhetherItIsTheSame, ResolvesPaths,
-                            MakesDirectories, CopiesOneThingToWhereNothingIs,
+TYPED_TEST_P(FileStoreConformance, WritesFilesAndTellsTheirSize)
+{
+    auto& store = this->store();
+    const auto root = this->root();
+    const std::string text("a\0b", 3);
+    EXPECT_TRUE(store.writeFile(root / "file", std::as_bytes(std::span(text))));
+    EXPECT_EQ(this->read("file"), text);
+    EXPECT_EQ(store.status(root / "file").value().byteCount, text.size());
+    EXPECT_TRUE(this->complains(store.writeFile(root / "file", {}), "file"));
+    EXPECT_FALSE(store.writeFile(root / "nowhere/below", {}));
+    EXPECT_EQ(this->read("file"), text);
+    EXPECT_EQ(store.status(root).value().byteCount, 0U);
+}
+
+TYPED_TEST_P(FileStoreConformance, MovesThingsOfOneNameToTheTrash)
+{
+    auto& store = this->store();
+    const auto root = this->root();
+    for (const char* name : {"a", "b"}) {
+        this->machine_.makeDirectory(root / name);
+        this->machine_.write(root / name / "inner", name);
+        EXPECT_TRUE(store.moveToTrash(root / name, root / "original"));
+        EXPECT_EQ(this->kind(name), FileKind::Missing);
+    }
+    EXPECT_FALSE(store.moveToTrash(root / "missing", root / "original"));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(FileStoreConformance, WritesFilesAndTellsTheirSize,
+                            MovesThingsOfOneNameToTheTrash, TellsWhatIsAtAPathAndWhetherItIsTheSame,
+                            ResolvesPaths, MakesDirectories, CopiesOneThingToWhereNothingIs,
                             MovesAndExchangesWithoutLosingAnything, RemovesTreesButNotWhatLinksLeadTo);
 
 } // namespace tocca::platform

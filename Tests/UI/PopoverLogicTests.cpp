@@ -46,6 +46,7 @@ TEST_F(PackImportTest, ByTheOpenPanelTellsHowItWent)
 
     packImport.openSoundPackImporter();
     machine.host.openPanels().answer("/nowhere");
+    machine.host.settle();
     EXPECT_THAT(message, Optional(testing::StartsWith("Failed to import: ")));
 }
 
@@ -82,6 +83,49 @@ TEST_F(PackImportTest, LeavesAnAnswerThatComesTooLate)
     machine.host.openPanels().answer("/downloads/Alps");
     machine.host.settle();
     EXPECT_THAT(packs(), ElementsAre());
+}
+
+TEST_F(PackImportTest, ShowsWhatItIsDoingAndImportsOneAfterTheOther)
+{
+    std::vector<std::string> seen;
+    std::vector<int> percents;
+    const auto activity =
+        packImport.importActivity.onChange([&](const auto& now) { seen.push_back(now.value_or("-")); });
+    const auto percent = packImport.importPercent.onChange([&](int now) { percents.push_back(now); });
+    packImport.handleDrop({"/downloads/Alps"});
+    packImport.handleDrop({"/downloads/Topre/"});
+    machine.host.settle();
+    EXPECT_THAT(seen, ElementsAre("Importing “Alps”…", "-", "Importing “Topre”…", "-"));
+    EXPECT_THAT(percents, testing::Contains(100));
+    EXPECT_THAT(packs(), ElementsAre("Alps", "Topre"));
+}
+
+TEST_F(PackImportTest, CanBeGivenUp)
+{
+    packImport.openSoundPackImporter();
+    machine.host.openPanels().answer("/downloads/Alps");
+    EXPECT_NE(packImport.importActivity.get(), std::nullopt);
+    packImport.cancel();
+    machine.host.settle();
+    EXPECT_THAT(message, Optional(std::string("Failed to import: cancelled")));
+    EXPECT_EQ(packImport.importActivity.get(), std::nullopt);
+    EXPECT_THAT(packs(), ElementsAre());
+    EXPECT_THAT(machine.host.files().list(machine.loader.customPacksDirectory()).value(), ElementsAre());
+}
+
+TEST_F(PackImportTest, ConvertsAndKeepsWhatItReplaces)
+{
+    // In the format of the decoder in memory, where each byte is a sample.
+    machine.host.files().write("/downloads/foreign/Alps/press/1.wav", std::string(50, '\x40'));
+    packImport.handleDrop({"/downloads/Alps"});
+    machine.host.settle();
+    packImport.handleDrop({"/downloads/foreign/Alps"});
+    machine.host.settle();
+    EXPECT_THAT(message, Optional(std::string("Imported 'Alps'!")));
+    const auto pack = machine.loader.customPacksDirectory() / "Alps";
+    EXPECT_THAT(machine.host.files().list(pack).value(),
+                testing::IsSupersetOf({"press_standard_01.wav", "release_standard_none.wav", "original"}));
+    EXPECT_TRUE(machine.host.files().exists("/trash/1 Alps/new.wav"));
 }
 
 } // namespace

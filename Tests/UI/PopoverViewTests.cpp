@@ -209,7 +209,18 @@ TEST_F(MenuBarViewTest, ButtonsDoWhatTheySay)
     machine.host.files().write("/downloads/Alps/press.wav", "press");
     key(Qt::Key_Home);
     settle();
+    EXPECT_FALSE(has("importProgress"));
     machine.host.openPanels().answer("/downloads/Alps");
+    EXPECT_EQ(text("importActivity"), "Importing “Alps”…");
+    settle();
+    click("cancelImport");
+    machine.host.settle();
+    EXPECT_EQ(text("importMessage"), "Failed to import: cancelled");
+    EXPECT_FALSE(has("importProgress"));
+
+    click("import");
+    machine.host.openPanels().answer("/downloads/Alps");
+    machine.host.settle();
     EXPECT_EQ(text("importMessage"), "Imported 'Alps'!");
     settle();
     const QQuickItem& result = *item("importMessage");

@@ -123,7 +123,13 @@ Bytes encoded(Encoding encoding, const std::vector<float>& samples, int channels
         std::fprintf(stderr, "no encoder: %s\n", sf_strerror(nullptr));
         std::abort();
     }
-    sf_writef_float(out, samples.data(), static_cast<sf_count_t>(samples.size()) / channels);
+    // In pieces: what is written at once to an Ogg Vorbis file has to fit the library's stack.
+    constexpr std::size_t kFrames = 4096;
+    const std::size_t piece = kFrames * static_cast<std::size_t>(channels);
+    for (std::size_t at = 0; at < samples.size(); at += piece) {
+        const std::size_t count = std::min(piece, samples.size() - at);
+        sf_writef_float(out, samples.data() + at, static_cast<sf_count_t>(count) / channels);
+    }
     sf_close(out);
     return std::move(file.bytes);
 }

@@ -122,6 +122,8 @@ private:
                          memory_.directories(),
                          memory_.files(),
                          memory_.fileStore(),
+                         memory_.archives(),
+                         memory_.soundDecoder(),
                          memory_.random(),
                          memory_.standardOutput(),
                          memory_.application(),

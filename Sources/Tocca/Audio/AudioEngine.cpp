@@ -95,6 +95,18 @@ void AudioEngine::mirrorSettings()
         latestSettings_.selectedCustomPack = pack ? &kept(*pack) : nullptr;
         settings_.store(latestSettings_);
     }));
+    settingLinks_.push_back(selectedCustomPack.onChange([this](const auto&) { forgetOtherPacks(); }));
+    settingLinks_.push_back(currentSwitchType.onChange([this](const auto&) { forgetOtherPacks(); }));
+}
+
+void AudioEngine::forgetOtherPacks()
+{
+    queue_->post([this] {
+        const AudioSettings settings = settings_.load();
+        loader_.keepOnly(settings.selectedCustomPack != nullptr
+                             ? settings.selectedCustomPack->id
+                             : std::string(settings.currentSwitchType.rawValue()));
+    });
 }
 
 const SoundPackInfo& AudioEngine::kept(const SoundPackInfo& pack)
@@ -180,7 +192,8 @@ void AudioEngine::start(std::string_view failure, const SharedBytes& data, const
     auto player = host_.audioPlayers.play(data, playback);
     if (player) {
         pool_.keep(std::move(player.value()));
-    } else {
+    } else if (std::erase_if(reported_, [](const auto& bytes) { return bytes.expired(); });
+               reported_.insert(data).second) {
         host_.standardOutput.printLine(std::string(failure) + player.error().describe());
     }
 }

@@ -10,11 +10,13 @@
 #include "Support/SnapshotCell.h"
 
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <forward_list>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -29,7 +31,7 @@ class SoundPackLoader;
 /// Turns strokes, clicks and scrolling into sound.
 ///
 /// The published settings start at the values given here at every launch and are kept nowhere. Playback reads them afresh
-/// for every event, as one consistent set; assigning one does nothing else.
+/// for every event, as one consistent set; assigning one does nothing else, but that packs which are no longer selected leave the memory.
 /// Threads: published members: main. `playKey`, `playMouseClick`, `playScrollRatchet`: any one thread that delivers input,
 /// and main.
 class AudioEngine {
@@ -81,6 +83,7 @@ public:
 private:
     void precomputePeripheralAudio();
     void mirrorSettings();
+    void forgetOtherPacks();
     [[nodiscard]] const SoundPackInfo& kept(const SoundPackInfo& pack);
     void postFeedback(float pan);
     void runStroke(Stroke stroke);
@@ -96,8 +99,10 @@ private:
     SnapshotCell<AudioSettings> settings_{latestSettings_}; // main -> any
     PlayerPool pool_;                                       // audio queue
     std::atomic<double> lastStrokeTime_{0.0};               // callers of playKey
-    double lastScrollTime_ = 0.0;                           // caller of playScrollRatchet
-    PeripheralSounds peripheralSounds_;                     // audio queue
+    std::set<std::weak_ptr<const std::vector<std::byte>>, std::owner_less<>>
+        reported_;                      // audio queue; what could not be played
+    double lastScrollTime_ = 0.0;       // caller of playScrollRatchet
+    PeripheralSounds peripheralSounds_; // audio queue
     Lifetime lifetime_;
     std::unique_ptr<platform::SerialQueue> queue_; // last: its tasks use the members above
 };

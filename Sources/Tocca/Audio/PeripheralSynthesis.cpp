@@ -1,5 +1,7 @@
 #include "Audio/PeripheralSynthesis.h"
 
+#include "Audio/WavImage.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -14,7 +16,6 @@ namespace tocca::audio {
 namespace {
 
 constexpr double kSampleRate = 44100.0;
-constexpr std::uint32_t kBytesPerSample = 2;
 
 struct ClickRow {
     std::string_view key;
@@ -37,32 +38,6 @@ constexpr std::array kClicks{
 };
 constexpr ClickRow kRatchet{"", 0.006, 2600, 4800, 750, 0.45};
 
-/// Appends to a little-endian file image.
-class LittleEndianWriter {
-public:
-    explicit LittleEndianWriter(std::vector<std::byte>& bytes)
-        : bytes_(bytes)
-    {}
-
-    void text(std::string_view text)
-    {
-        for (const char c : text) {
-            bytes_.push_back(static_cast<std::byte>(c));
-        }
-    }
-
-    template <class Unsigned>
-    void number(Unsigned value)
-    {
-        for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-            bytes_.push_back(static_cast<std::byte>((std::uint32_t{value} >> (8 * i)) & 0xFFU));
-        }
-    }
-
-private:
-    std::vector<std::byte>& bytes_;
-};
-
 SharedBytes render(const ClickRow& row)
 {
     return synthesizeWav(row.duration, row.freq1, row.freq2, row.decay, row.amplitude);
@@ -74,25 +49,7 @@ SharedBytes synthesizeWav(double duration, double freq1, double freq2, double de
 {
     constexpr double kTwoPi = 6.283185307179586;
     const auto count = static_cast<std::uint32_t>(duration * kSampleRate);
-    const std::uint32_t dataSize = count * kBytesPerSample;
-
-    auto bytes = std::make_shared<std::vector<std::byte>>();
-    bytes->reserve(44 + dataSize);
-    LittleEndianWriter out(*bytes);
-    out.text("RIFF");
-    out.number(36 + dataSize);
-    out.text("WAVE");
-    out.text("fmt ");
-    out.number(std::uint32_t{16});
-    out.number(std::uint16_t{1}); // integer PCM
-    out.number(std::uint16_t{1}); // channels
-    out.number(static_cast<std::uint32_t>(kSampleRate));
-    out.number(static_cast<std::uint32_t>(kSampleRate) * kBytesPerSample);
-    out.number(static_cast<std::uint16_t>(kBytesPerSample));
-    out.number(std::uint16_t{16}); // bits per sample
-    out.text("data");
-    out.number(dataSize);
-
+    std::vector<std::int16_t> samples(count);
     const double omega1 = freq1 * kTwoPi;
     const double omega2 = freq2 * kTwoPi;
     for (std::uint32_t i = 0; i < count; ++i) {
@@ -100,9 +57,10 @@ SharedBytes synthesizeWav(double duration, double freq1, double freq2, double de
         const double envelope = std::exp(-(t * decay));
         const double s = envelope * (0.6 * std::sin(omega1 * t) + 0.4 * std::sin(omega2 * t)) * amplitude;
         const double x = std::clamp(s * 32000.0, -32767.0, 32767.0);
-        out.number(static_cast<std::uint16_t>(static_cast<std::int16_t>(x)));
+        samples[i] = static_cast<std::int16_t>(x);
     }
-    return bytes;
+    return std::make_shared<const std::vector<std::byte>>(
+        wavImage(samples, 1, static_cast<std::uint32_t>(kSampleRate)));
 }
 
 void PeripheralSounds::precompute()

@@ -62,4 +62,12 @@ std::array<std::optional<SoundSlot>, 3> SoundSlot::chainFor(KeyCategory category
     return chain;
 }
 
+std::string_view SoundSlot::name() const noexcept
+{
+    constexpr std::array<std::string_view, kCount> kNames{
+        "press_standard",   "press_space",   "press_enter",   "press_back",
+        "release_standard", "release_space", "release_enter", "release_back"};
+    return kNames[index()];
+}
+
 } // namespace tocca::audio

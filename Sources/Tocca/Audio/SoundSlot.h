@@ -34,6 +34,9 @@ public:
         return static_cast<std::size_t>(direction_) * 4 + static_cast<std::size_t>(sound_);
     }
 
+    /// "press_standard": what the slot is called, and its files begin with.
+    [[nodiscard]] std::string_view name() const noexcept;
+
     bool operator==(const SoundSlot&) const = default;
 
 private:

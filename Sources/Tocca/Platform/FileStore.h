@@ -2,8 +2,10 @@
 
 #include "Support/Result.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <span>
 
 namespace tocca::platform {
 
@@ -21,6 +23,7 @@ struct FileIdentity {
 struct FileStatus {
     FileKind kind = FileKind::Missing;
     FileIdentity identity;
+    std::uint64_t byteCount = 0; ///< of a regular file, holes included
 };
 
 /// Changing of files, one step at a time, never waiting for anything but the disk.
@@ -46,6 +49,9 @@ public:
     /// as a link, a directory without its entries. The owner can always change the copy. Special things are an error.
     virtual Outcome copyEntry(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
 
+    /// Makes a regular file with these bytes where nothing must be; they have reached the disk then.
+    virtual Outcome writeFile(const std::filesystem::path& to, std::span<const std::byte> bytes) = 0;
+
     /// Renames a thing within its file system in one step. Something at `to` is an error.
     virtual Outcome move(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
 
@@ -55,6 +61,9 @@ public:
 
     /// Removes a thing and everything in it; a missing one is no error.
     virtual Outcome removeTree(const std::filesystem::path& path) = 0;
+
+    /// Moves a thing to the user's trash, as if it had been at `original` until now, for the user to take it back from there.
+    virtual Outcome moveToTrash(const std::filesystem::path& path, const std::filesystem::path& original) = 0;
 
     /// Returns when the names in `directory` have reached the disk.
     virtual Outcome syncDirectory(const std::filesystem::path& directory) = 0;

@@ -20,6 +20,8 @@ struct Host {
     class Directories& directories;
     class Files& files;
     class FileStore& fileStore;
+    class Archives& archives;
+    class SoundDecoder& soundDecoder;
     class Random& random;
     class StandardOutput& standardOutput;
     class Application& application;

@@ -10,8 +10,8 @@ namespace tocca::player {
 
 namespace {
 
-// Room for several packs: one of a hundred recordings of 0.3 s takes 5 MB.
-constexpr std::size_t kCacheBytes = std::size_t{16} << 20U;
+// Room for any pack of keys: one of a hundred recordings of 0.3 s takes 5 MB.
+constexpr std::size_t kCacheBytes = std::size_t{64} << 20U;
 
 /// A request to the mixer, which ends with it.
 class MixerAudioPlayer final : public platform::AudioPlayer {

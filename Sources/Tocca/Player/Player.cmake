@@ -20,6 +20,7 @@ app_module(tocca_player
         Player/MixerAudioPlayers
         Player/Decoding/Decoder
         Player/Decoding/Downmix
+        Player/Decoding/FileSoundDecoder
         Player/Decoding/Mp3Stream
         Player/Decoding/PcmCache
         Player/Decoding/PcmClip

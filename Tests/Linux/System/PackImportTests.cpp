@@ -1,6 +1,7 @@
 #include "Audio/PackFolder.h"
 #include "Audio/Packs/PackImporter.h"
 #include "Audio/Packs/PackLibrary.h"
+#include "Audio/Packs/PackStaging.h"
 #include "Instruments/TemporaryDirectory.h"
 #include "Linux/System/ChildProcess.h"
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
@@ -95,7 +96,7 @@ struct ImportOnDisk : testing::Test {
     const fs::path packs = root / "packs";
     const fs::path source = root / "downloads/Alps";
     platform::linux::LinuxFiles files;
-    platform::linux::LinuxFileStore store;
+    platform::linux::LinuxFileStore store{platform::linux::HomeTrash(root / "trash")};
 };
 
 /// A small disk of its own at a folder, for as long as a test needs it.
@@ -162,6 +163,7 @@ TEST_F(ImportOnDisk, KeepsTheOldPackWhenTheDiskIsFull)
     fs::remove_all(source);
     fillSource(2, 50'000);
     EXPECT_EQ(import(source), "imported Alps") << "what the failed import took is free again";
+    PackStaging::forgetReplaced(files, store, packs); // the trash is on another disk
     expectOneWholePack();
 }
 

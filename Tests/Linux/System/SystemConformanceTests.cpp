@@ -39,7 +39,7 @@ public:
 private:
     instruments::TemporaryDirectory directory_;
     linux::LinuxFiles files_;
-    linux::LinuxFileStore fileStore_;
+    linux::LinuxFileStore fileStore_{linux::HomeTrash(directory_.path() / "trash")};
 };
 
 } // namespace

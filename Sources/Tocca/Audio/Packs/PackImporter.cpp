@@ -32,31 +32,19 @@ Error refusal(const std::string& name, const std::string& reason)
 
 } // namespace
 
-struct PackImporter::Source {
-    fs::path path; ///< without links
-    FileStatus status;
-    std::string packName;
-};
-
 Result<std::string> PackImporter::import(const fs::path& source, const fs::path& packs)
 {
-    const auto examined = examine(source);
-    if (!examined) {
-        return examined.error();
+    const auto checked = check(source, packs);
+    if (!checked) {
+        return checked.error();
     }
-    const Source& pack = examined.value();
-    if (const auto made = store_.makeDirectories(packs); !made) {
-        return made.error();
-    }
-    if (const auto allowed = refuseOverlap(pack, packs); !allowed) {
-        return allowed.error();
-    }
+    const PackSource& pack = checked.value();
     PackStaging staging(files_, store_, packs, pack.packName);
     if (const auto opened = staging.open(); !opened) {
         return opened.error();
     }
-    if (const auto copied = copyTree(pack.path, staging.newPack(), 0); !copied) {
-        return copied.error();
+    if (const auto brought = bring(pack, packs, staging.newPack()); !brought) {
+        return brought.error();
     }
     if (const auto committed = staging.commit(); !committed) {
         return committed.error();
@@ -64,7 +52,29 @@ Result<std::string> PackImporter::import(const fs::path& source, const fs::path&
     return pack.packName;
 }
 
-Result<PackImporter::Source> PackImporter::examine(const fs::path& path) const
+Result<PackSource> PackImporter::check(const fs::path& source, const fs::path& packs) const
+{
+    auto examined = examine(source);
+    if (!examined) {
+        return examined;
+    }
+    if (const auto made = store_.makeDirectories(packs); !made) {
+        return made.error();
+    }
+    if (const auto allowed = refuseOverlap(examined.value(), packs); !allowed) {
+        return allowed.error();
+    }
+    return examined;
+}
+
+Outcome PackImporter::bring(const PackSource& source, const fs::path& packs, const fs::path& to)
+{
+    const auto library = store_.resolve(packs);
+    return library && PackStaging::isStaged(source.path, library.value()) ? store_.move(source.path, to)
+                                                                          : copyTree(source.path, to, 0);
+}
+
+Result<PackSource> PackImporter::examine(const fs::path& path) const
 {
     const auto resolved = store_.resolve(path);
     if (!resolved) {
@@ -82,10 +92,11 @@ Result<PackImporter::Source> PackImporter::examine(const fs::path& path) const
     if (packName.empty() || packName == "." || packName == ".." || PackStaging::isReserved(packName)) {
         return refusal(name, "cannot be the name of a sound pack");
     }
-    return Source{.path = resolved.value(), .status = status.value(), .packName = packName};
+    return PackSource{
+        .path = resolved.value(), .status = status.value(), .fileName = name, .packName = packName};
 }
 
-Outcome PackImporter::refuseOverlap(const Source& source, const fs::path& packs) const
+Outcome PackImporter::refuseOverlap(const PackSource& source, const fs::path& packs) const
 {
     const auto library = store_.resolve(packs);
     if (!library) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/FileStore.h"
 #include "Support/Result.h"
 
 #include <filesystem>
@@ -8,10 +9,17 @@
 namespace tocca::platform {
 class Files;
 class FileStore;
-struct FileStatus;
 } // namespace tocca::platform
 
 namespace tocca::audio {
+
+/// Something that can be imported.
+struct PackSource {
+    std::filesystem::path path; ///< without links
+    platform::FileStatus status;
+    std::string fileName; ///< what the user knows it by
+    std::string packName; ///< the same without extension: what the pack will be called
+};
 
 /// Copies a folder into the folder of the imported packs.
 ///
@@ -27,13 +35,19 @@ public:
     /// Copies `source` to `packs` under its own name without extension, instead of what has that name there, and returns the
     /// name. Links are copied as links, what is neither file, folder nor link is left out.
     /// Errors: the reason, for people; what was there is as it was.
+    /// One that lies in a `PackStaging` of this process is moved instead, which takes no time.
     Result<std::string> import(const std::filesystem::path& source, const std::filesystem::path& packs);
 
-private:
-    struct Source;
+    /// Whether `source` could be imported to `packs`, which is made if there is none.
+    /// Errors: why not.
+    [[nodiscard]] Result<PackSource> check(const std::filesystem::path& source,
+                                           const std::filesystem::path& packs) const;
 
-    [[nodiscard]] Result<Source> examine(const std::filesystem::path& path) const;
-    [[nodiscard]] Outcome refuseOverlap(const Source& source, const std::filesystem::path& packs) const;
+private:
+    [[nodiscard]] Result<PackSource> examine(const std::filesystem::path& path) const;
+    [[nodiscard]] Outcome refuseOverlap(const PackSource& source, const std::filesystem::path& packs) const;
+    Outcome bring(const PackSource& source, const std::filesystem::path& packs,
+                  const std::filesystem::path& to);
     [[nodiscard]] Result<bool> leadsThrough(const std::filesystem::path& path,
                                             const platform::FileStatus& directory) const;
     Outcome copyTree(const std::filesystem::path& from, const std::filesystem::path& to, int depth);

@@ -10,6 +10,7 @@
 #include <random>
 #include <set>
 #include <variant>
+#include <vector>
 
 namespace tocca::audio {
 
@@ -19,8 +20,11 @@ using platform::FileKind;
 namespace {
 
 constexpr std::string_view kPrefix = ".tocca-import-";
-constexpr const char* kNew = "new";             // the pack that grows, or the one it has changed places with
-constexpr const char* kOld = "old";             // the pack that was in place, while nothing is
+constexpr std::string_view kReplacedPrefix = ".tocca-replaced-";
+constexpr const char* kNew = "new";     // the pack that grows
+constexpr const char* kWork = "work";   // what it grows from
+constexpr const char* kReady = "ready"; // the pack that has grown, or the one it has changed places with
+constexpr const char* kOld = "old";     // the pack that was in place, while nothing is
 constexpr const char* kDiscarded = "discarded"; // what is never put back again
 
 /// The names of the folders that this process is using.
@@ -70,8 +74,32 @@ private:
     std::set<std::string> names_;
 };
 
-/// Puts back what `folder` keeps of packs whose place is empty, then removes it; as long as something could not be put back
-/// the folder stays. Returns whether anything was put back.
+/// Gives what is in `folder / part` to the trash, or hides it beside the packs. Returns whether nothing of it is left there.
+bool giveAway(const platform::Files& files, platform::FileStore& store, const fs::path& packs,
+              const fs::path& folder, const char* part)
+{
+    const auto kept = store.status(folder / part);
+    if (!kept) {
+        return false;
+    }
+    if (kept.value().kind != FileKind::Directory) {
+        return true;
+    }
+    const auto names = files.list(folder / part);
+    if (!names) {
+        return false;
+    }
+    bool isAllInTrash = true;
+    for (const std::string& name : names.value()) {
+        isAllInTrash = store.moveToTrash(folder / part / name, packs / name).hasValue() && isAllInTrash;
+    }
+    const std::string suffix = folder.filename().string().substr(kPrefix.size());
+    return isAllInTrash ||
+           store.move(folder / part, packs / (std::string(kReplacedPrefix) + suffix + part)).hasValue();
+}
+
+/// Puts back what `folder` keeps of packs whose place is empty, gives away what else is whole, then removes it; as long as
+/// something could not be put back the folder stays. Returns whether anything was put back.
 bool settle(const platform::Files& files, platform::FileStore& store, const fs::path& packs,
             const fs::path& folder)
 {
@@ -98,11 +126,9 @@ bool settle(const platform::Files& files, platform::FileStore& store, const fs::
             }
         }
         static_cast<void>(store.syncDirectory(packs));
-        // A removal may end halfway, and by the next time somebody may have taken the new pack away: half a pack must not
-        // be put back then.
-        if (!store.move(folder / kOld, folder / kDiscarded)) {
-            return hasRestored;
-        }
+    }
+    if (!giveAway(files, store, packs, folder, kOld) || !giveAway(files, store, packs, folder, kReady)) {
+        return hasRestored;
     }
     static_cast<void>(store.removeTree(folder));
     return hasRestored;
@@ -135,6 +161,11 @@ fs::path PackStaging::newPack() const
     return folder_ / kNew / packName_;
 }
 
+fs::path PackStaging::workFolder() const
+{
+    return folder_ / kWork;
+}
+
 Outcome PackStaging::commit()
 {
     const fs::path place = packs_ / packName_;
@@ -146,20 +177,35 @@ Outcome PackStaging::commit()
         if (auto moved = store_.move(newPack(), place); !moved) {
             return moved;
         }
-    } else {
-        const auto exchanged = store_.exchange(newPack(), place);
-        if (!exchanged) {
-            return exchanged.error();
-        }
-        if (!exchanged.value()) {
-            if (auto replaced = replaceInTwoSteps(); !replaced) {
-                return replaced;
-            }
-        }
+    } else if (auto replaced = replace(); !replaced) {
+        // Nobody has asked for the new pack to be in the trash.
+        static_cast<void>(store_.move(folder_ / kReady, folder_ / kDiscarded));
+        return replaced;
     }
     // The new pack is in place; nothing that fails from now on may be told as a failed import.
     static_cast<void>(store_.syncDirectory(packs_));
     return std::monostate{};
+}
+
+Outcome PackStaging::replace()
+{
+    const fs::path ready = folder_ / kReady / packName_;
+    if (auto made = store_.makeDirectories(folder_ / kReady); !made) {
+        return made;
+    }
+    if (auto moved = store_.move(newPack(), ready); !moved) {
+        return moved;
+    }
+    for (const fs::path& directory : {folder_ / kReady, folder_}) {
+        if (auto synced = store_.syncDirectory(directory); !synced) {
+            return synced;
+        }
+    }
+    const auto exchanged = store_.exchange(ready, packs_ / packName_);
+    if (!exchanged) {
+        return exchanged.error();
+    }
+    return exchanged.value() ? Outcome(std::monostate{}) : replaceInTwoSteps();
 }
 
 Outcome PackStaging::replaceInTwoSteps()
@@ -177,12 +223,29 @@ Outcome PackStaging::replaceInTwoSteps()
     if (auto moved = store_.move(place, old / packName_); !moved) {
         return moved;
     }
-    return store_.move(newPack(), place);
+    return store_.move(folder_ / kReady / packName_, place);
 }
 
 bool PackStaging::isReserved(std::string_view name)
 {
-    return name.starts_with(kPrefix);
+    return name.starts_with(kPrefix) || name.starts_with(kReplacedPrefix);
+}
+
+bool PackStaging::isStaged(const fs::path& path, const fs::path& library)
+{
+    const fs::path staged = path.lexically_relative(library);
+    return !staged.empty() && NamesInUse::shared().contains(staged.begin()->string());
+}
+
+void PackStaging::forgetReplaced(const platform::Files& files, platform::FileStore& store,
+                                 const fs::path& packs)
+{
+    const auto names = files.list(packs);
+    for (const std::string& name : names ? names.value() : std::vector<std::string>()) {
+        if (name.starts_with(kReplacedPrefix)) {
+            static_cast<void>(store.removeTree(packs / name));
+        }
+    }
 }
 
 bool PackStaging::settleAbandoned(const platform::Files& files, platform::FileStore& store,
@@ -190,7 +253,7 @@ bool PackStaging::settleAbandoned(const platform::Files& files, platform::FileSt
 {
     bool hasRestored = false;
     for (const std::string& name : names) {
-        if (isReserved(name) && !NamesInUse::shared().contains(name)) {
+        if (name.starts_with(kPrefix) && !NamesInUse::shared().contains(name)) {
             hasRestored = settle(files, store, packs, packs / name) || hasRestored;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "Audio/Packs/PackImportError.h"
 #include "Audio/Packs/PackImporter.h"
+#include "Audio/Packs/PackStaging.h"
 #include "Audio/RandomDraws.h"
 #include "Platform/Directories.h"
 #include "Platform/FileStore.h"
@@ -20,6 +21,9 @@ SoundPackLoader::SoundPackLoader(platform::Host& host)
     , library_(host.files, host.fileStore)
 {
     refreshCustomPacks();
+    // Not before the program has come up, so that the start that fails takes nothing from the user.
+    host_.mainQueue.post(lifetime_.guard(
+        [this] { PackStaging::forgetReplaced(host_.files, host_.fileStore, customPacksDirectory()); }));
 }
 
 SoundPackLoader& SoundPackLoader::shared()
@@ -75,26 +79,78 @@ std::string SoundPackLoader::importCustomPack(const std::filesystem::path& from)
 
 const PackTable& SoundPackLoader::loadPack(const std::string& id, const std::filesystem::path& folderURL)
 {
+    static const PackTable kNothing;
+    const LoadedPack* const pack = find(id, folderURL);
+    return pack != nullptr ? pack->table : kNothing;
+}
+
+SoundPackLoader::LoadedPack* SoundPackLoader::find(const std::string& id,
+                                                   const std::filesystem::path& folderURL)
+{
     requireThreadRole({ThreadRole::AudioQueue}, "SoundPackLoader::loadPack");
     if (const auto cached = soundPackDataCache_.find(id); cached != soundPackDataCache_.end()) {
-        return cached->second;
+        return &cached->second;
     }
     const auto names = host_.files.list(folderURL);
     if (!names) {
-        static const PackTable kNothing;
-        return kNothing;
+        return nullptr;
     }
-    PackTable table;
+    LoadedPack pack;
     for (const std::string& name : names.value()) {
         const auto slot = SoundSlot::fromFileName(name);
         if (!slot) {
             continue;
         }
-        if (auto bytes = host_.files.read(folderURL / name, kLargestFile)) {
-            table[slot->index()].push_back(std::move(bytes.value()));
+        const bool hasRoom = pack.byteCount + kLargestFile <= kMostBytes;
+        auto bytes =
+            hasRoom ? host_.files.read(folderURL / name, kLargestFile) : Result<SharedBytes>(SharedBytes());
+        if (bytes) {
+            pack.byteCount += bytes.value() ? bytes.value()->size() : 0;
+            pack.table[slot->index()].push_back(std::move(bytes.value()));
+            pack.files[slot->index()].push_back({.path = folderURL / name});
         }
     }
-    return soundPackDataCache_.emplace(id, std::move(table)).first->second;
+    return &soundPackDataCache_.emplace(id, std::move(pack)).first->second;
+}
+
+SharedBytes SoundPackLoader::fetch(LoadedPack& pack, std::size_t slot, std::size_t variant)
+{
+    PackFile& file = pack.files[slot][variant];
+    SharedBytes& bytes = pack.table[slot][variant];
+    file.lastUse = ++useCount_;
+    if (bytes) {
+        return bytes;
+    }
+    auto read = host_.files.read(file.path, kLargestFile);
+    if (!read) {
+        return nullptr;
+    }
+    bytes = std::move(read.value());
+    pack.byteCount += bytes->size();
+    while (pack.byteCount > kMostBytes) {
+        SharedBytes* oldest = nullptr;
+        std::uint64_t oldestUse = file.lastUse;
+        for (std::size_t i = 0; i < SoundSlot::kCount; ++i) {
+            for (std::size_t j = 0; j < pack.files[i].size(); ++j) {
+                if (pack.table[i][j] && pack.files[i][j].lastUse < oldestUse) {
+                    oldest = &pack.table[i][j];
+                    oldestUse = pack.files[i][j].lastUse;
+                }
+            }
+        }
+        if (oldest == nullptr) {
+            break;
+        }
+        pack.byteCount -= (*oldest)->size();
+        oldest->reset();
+    }
+    return bytes;
+}
+
+void SoundPackLoader::keepOnly(const std::string& id)
+{
+    requireThreadRole({ThreadRole::AudioQueue}, "SoundPackLoader::keepOnly");
+    std::erase_if(soundPackDataCache_, [&](const auto& entry) { return entry.first != id; });
 }
 
 std::optional<std::filesystem::path> SoundPackLoader::builtInSoundPacksDirectory() const
@@ -125,11 +181,13 @@ std::optional<std::filesystem::path> SoundPackLoader::builtInSoundPacksDirectory
 SharedBytes SoundPackLoader::sample(const std::filesystem::path& folderURL, const std::string& packId,
                                     KeyCategory category, KeyStrokeAction action)
 {
-    const PackTable& table = loadPack(packId, folderURL);
+    LoadedPack* const pack = find(packId, folderURL);
+    if (pack == nullptr) {
+        return nullptr;
+    }
     for (const auto& slot : SoundSlot::chainFor(category, action)) {
-        if (slot && !table[slot->index()].empty()) {
-            const auto& variants = table[slot->index()];
-            return variants[drawIndex(host_.random, variants.size())];
+        if (slot && !pack->table[slot->index()].empty()) {
+            return fetch(*pack, slot->index(), drawIndex(host_.random, pack->table[slot->index()].size()));
         }
     }
     return nullptr;

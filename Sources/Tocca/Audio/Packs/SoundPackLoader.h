@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -22,10 +23,11 @@ struct Host;
 
 namespace tocca::audio {
 
-/// The recordings of one pack, sorted into slots; all slots are empty when its folder could not be listed.
+/// The recordings of one pack, sorted into slots; all slots are empty when its folder could not be listed. One that is not in memory is
+/// null.
 using PackTable = std::array<std::vector<SharedBytes>, SoundSlot::kCount>;
 
-/// Finds the recording for a stroke in a pack's folder and keeps what it has read for the rest of the process; keeps the list
+/// Finds the recording for a stroke in a pack's folder and keeps what it has read until it is told to forget it; keeps the list
 /// of the packs that the user imported.
 ///
 /// Threads: samples and `loadPack`: audio queue. Custom packs and construction: main. Directories: any.
@@ -34,6 +36,9 @@ class SoundPackLoader {
 public:
     /// A larger file is left out, like one that cannot be read.
     static constexpr std::size_t kLargestFile = std::size_t{32} * 1024 * 1024;
+
+    /// How many bytes of a pack's files are kept in memory; of more, those that were used last.
+    static constexpr std::size_t kMostBytes = std::size_t{256} * 1024 * 1024;
 
     /// Starts a first `refreshCustomPacks`.
     explicit SoundPackLoader(platform::Host& host);
@@ -63,6 +68,9 @@ public:
     /// gives an empty table and is tried again by the next request.
     const PackTable& loadPack(const std::string& id, const std::filesystem::path& folderURL);
 
+    /// Forgets all packs but the one kept under `id`. Threads: audio queue.
+    void keepOnly(const std::string& id);
+
     /// Where the built-in packs are: the first that exists of the program's resources, the working directory's source tree
     /// and the user's own data directory; looked up anew on every call.
     [[nodiscard]] std::optional<std::filesystem::path> builtInSoundPacksDirectory() const;
@@ -75,9 +83,25 @@ public:
     [[nodiscard]] SharedBytes sample(SwitchType switchType, KeyCategory category, KeyStrokeAction action);
 
 private:
+    /// A file of a pack, in the order of its slot.
+    struct PackFile {
+        std::filesystem::path path;
+        std::uint64_t lastUse = 0;
+    };
+
+    struct LoadedPack {
+        PackTable table;
+        std::array<std::vector<PackFile>, SoundSlot::kCount> files;
+        std::size_t byteCount = 0;
+    };
+
+    [[nodiscard]] LoadedPack* find(const std::string& id, const std::filesystem::path& folderURL);
+    [[nodiscard]] SharedBytes fetch(LoadedPack& pack, std::size_t slot, std::size_t variant);
+
     platform::Host& host_;
     PackLibrary library_;
-    std::unordered_map<std::string, PackTable> soundPackDataCache_; // audio queue
+    std::unordered_map<std::string, LoadedPack> soundPackDataCache_; // audio queue
+    std::uint64_t useCount_ = 0;                                     // audio queue
     Lifetime lifetime_;
 };
 

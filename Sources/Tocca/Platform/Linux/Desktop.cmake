@@ -85,7 +85,7 @@ app_module(tocca_linux_desktop
         Platform/Linux/Freedesktop/DBusReply.h
         Platform/Linux/Qt/Windows/QuickView.h
         Platform/Linux/Tray/MenuNode.h
-    DEPENDS tocca_linux_audio tocca_linux_x11 Qt6::Core Qt6::DBus Qt6::Gui Qt6::Qml Qt6::Quick
+    DEPENDS tocca_linux_audio tocca_linux_x11 tocca_player Qt6::Core Qt6::DBus Qt6::Gui Qt6::Qml Qt6::Quick
     PRIVATE_DEPENDS Qt6::Svg)
 app_precompile(tocca_linux_desktop
     <functional> <memory> <optional> <string> <vector>

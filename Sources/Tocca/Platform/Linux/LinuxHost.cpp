@@ -23,11 +23,11 @@ LinuxHost::LinuxHost(const std::string& display, const QByteArray& launch)
 Host LinuxHost::with(AudioPlayers& players) noexcept
 {
     // Every service has a type of its own, so the compiler keeps the order.
-    return {mainQueue_,     serialQueues_, threads_,     timers_,       clock_,    eventTaps_,
-            localMonitors_, trustQuery_,   players,      audioDevices_, haptics_,  workspace_,
-            loginItem_,     directories_,  files_,       fileStore_,    random_,   standardOutput_,
-            application_,   screens_,      windows_,     panels_,       popovers_, statusBar_,
-            mainMenu_,      openPanels_,   userDefaults_};
+    return {mainQueue_,     serialQueues_,   threads_,     timers_,       clock_,       eventTaps_,
+            localMonitors_, trustQuery_,     players,      audioDevices_, haptics_,     workspace_,
+            loginItem_,     directories_,    files_,       fileStore_,    archives_,    soundDecoder_,
+            random_,        standardOutput_, application_, screens_,      windows_,     panels_,
+            popovers_,      statusBar_,      mainMenu_,    openPanels_,   userDefaults_};
 }
 
 SchedulingAppeal LinuxHost::appeal()

@@ -21,6 +21,7 @@
 #include "Platform/Linux/System/Files/LinuxFileStore.h"
 #include "Platform/Linux/System/Files/LinuxFiles.h"
 #include "Platform/Linux/System/Files/LinuxUserDefaults.h"
+#include "Platform/Linux/System/Files/ZipArchives.h"
 #include "Platform/Linux/System/LinuxClock.h"
 #include "Platform/Linux/System/LinuxHaptics.h"
 #include "Platform/Linux/System/LinuxRandom.h"
@@ -33,6 +34,7 @@
 #include "Platform/Linux/Tray/LinuxStatusBar.h"
 #include "Platform/Linux/X11/Input/X11TrustQuery.h"
 #include "Platform/Linux/X11/Input/XInputEventTaps.h"
+#include "Player/Decoding/FileSoundDecoder.h"
 
 #include <QByteArray>
 
@@ -88,6 +90,8 @@ private:
     LinuxDirectories directories_;
     LinuxFiles files_;
     LinuxFileStore fileStore_;
+    ZipArchives archives_;
+    player::FileSoundDecoder soundDecoder_;
     LinuxRandom random_;
     LinuxUserDefaults userDefaults_{serialQueues_};
     OwnWindows ownWindows_;

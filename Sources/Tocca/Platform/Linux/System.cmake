@@ -1,4 +1,6 @@
 # What the kernel and the C library alone provide; builds without any desktop library.
+pkg_check_modules(libarchive REQUIRED IMPORTED_TARGET libarchive)
+
 app_module(tocca_linux_system
     UNITS
         Platform/Linux/Freedesktop/Applications/DesktopEntries
@@ -13,10 +15,12 @@ app_module(tocca_linux_system
         Platform/Linux/System/Files/FileCopy
         Platform/Linux/System/Files/FileError
         Platform/Linux/System/Files/FileReplacement
+        Platform/Linux/System/Files/HomeTrash
         Platform/Linux/System/Files/LinuxDirectories
         Platform/Linux/System/Files/LinuxFileStore
         Platform/Linux/System/Files/LinuxFiles
         Platform/Linux/System/Files/LinuxUserDefaults
+        Platform/Linux/System/Files/ZipArchives
         Platform/Linux/System/Threads/Doorbell
         Platform/Linux/System/Threads/LinuxMainQueue
         Platform/Linux/System/Threads/LinuxSerialQueues
@@ -33,4 +37,5 @@ app_module(tocca_linux_system
         Platform/Linux/System/LinuxClock.h
         Platform/Linux/System/LinuxHaptics.h
         Platform/Linux/System/SecureInput.h
-    DEPENDS tocca_platform)
+    DEPENDS tocca_platform
+    PRIVATE_DEPENDS PkgConfig::libarchive)

@@ -1,5 +1,6 @@
 app_module(tocca_memory
     UNITS
+        Platform/Memory/MemoryArchives
         Platform/Memory/MemoryAudioPlayers
         Platform/Memory/MemoryDesktop
         Platform/Memory/MemoryEventTaps

@@ -1,8 +1,10 @@
 #include "Platform/Memory/MemoryFileStore.h"
 
 #include <memory>
+#include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace tocca::platform::memory {
 
@@ -23,7 +25,8 @@ Result<FileStatus> MemoryFileStore::status(const std::filesystem::path& path) co
     const auto node = disk_.find(path, LastLink::Keep);
     if (node) {
         return FileStatus{.kind = node.value()->kind,
-                          .identity = {.device = 1, .number = node.value()->number}};
+                          .identity = {.device = 1, .number = node.value()->number},
+                          .byteCount = node.value()->bytes ? node.value()->bytes->size() : 0};
     }
     if (node.error() == std::errc::no_such_file_or_directory || node.error() == std::errc::not_a_directory) {
         return FileStatus{};
@@ -89,6 +92,23 @@ Outcome MemoryFileStore::copyEntry(const std::filesystem::path& from, const std:
     return std::monostate{};
 }
 
+Outcome MemoryFileStore::writeFile(const std::filesystem::path& to, std::span<const std::byte> bytes)
+{
+    if (isReadOnly) {
+        return failure(to, std::errc::read_only_file_system);
+    }
+    if (bytes.size() > freeBytes) {
+        return failure(to, std::errc::no_space_on_device);
+    }
+    const auto added = disk_.add(to, FileKind::File);
+    if (!added) {
+        return failure(to, added.error());
+    }
+    added.value()->bytes = std::make_shared<const std::vector<std::byte>>(bytes.begin(), bytes.end());
+    freeBytes -= bytes.size();
+    return std::monostate{};
+}
+
 Outcome MemoryFileStore::move(const std::filesystem::path& from, const std::filesystem::path& to)
 {
     if (isReadOnly) {
@@ -146,6 +166,19 @@ Outcome MemoryFileStore::removeTree(const std::filesystem::path& path)
     }
     MemoryDisk::detach(*node.value());
     return std::monostate{};
+}
+
+Outcome MemoryFileStore::moveToTrash(const std::filesystem::path& path, const std::filesystem::path& original)
+{
+    if (!hasTrash) {
+        return failure(path, std::errc::cross_device_link);
+    }
+    const std::filesystem::path trash = kTrash;
+    if (auto made = makeDirectories(trash); !made) {
+        return made;
+    }
+    const auto number = disk_.find(trash, LastLink::Keep).value()->entries.size() + 1;
+    return move(path, trash / (std::to_string(number) + " " + original.filename().string()));
 }
 
 Outcome MemoryFileStore::syncDirectory(const std::filesystem::path& directory)

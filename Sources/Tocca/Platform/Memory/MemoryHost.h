@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Host.h"
+#include "Platform/Memory/MemoryArchives.h"
 #include "Platform/Memory/MemoryAudioPlayers.h"
 #include "Platform/Memory/MemoryDesktop.h"
 #include "Platform/Memory/MemoryEventTaps.h"
@@ -62,6 +63,10 @@ public:
 
     [[nodiscard]] MemoryFileStore& fileStore() noexcept { return fileStore_; }
 
+    [[nodiscard]] MemoryArchives& archives() noexcept { return archives_; }
+
+    [[nodiscard]] MemorySoundDecoder& soundDecoder() noexcept { return soundDecoder_; }
+
     [[nodiscard]] MemoryRandom& random() noexcept { return random_; }
 
     [[nodiscard]] MemoryStandardOutput& standardOutput() noexcept { return standardOutput_; }
@@ -105,6 +110,8 @@ private:
     MemoryDisk disk_;
     MemoryFiles files_{disk_};
     MemoryFileStore fileStore_{disk_};
+    MemoryArchives archives_;
+    MemorySoundDecoder soundDecoder_;
     MemoryRandom random_;
     MemoryStandardOutput standardOutput_;
     Journal journal_;

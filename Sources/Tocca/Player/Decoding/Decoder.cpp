@@ -151,7 +151,7 @@ Result<PcmClip> decode(std::span<const std::byte> file, const DecoderLimits& lim
     if (channels.left.empty()) {
         return Error{"The file contains no sound."};
     }
-    if (*format == SoundFormat::Mp3) {
+    if (*format == SoundFormat::Mp3 && !limits.keepsLeadingSilence) {
         trimEncoderSilence(channels, opened.sampleRate());
     }
     if (channels.right.empty() || channels.left == channels.right) {

@@ -52,6 +52,8 @@ class MenuBarViewModel : public QObject {
     PackImport import_;
 
     UI_PROPERTY(QString, importMessage, import_.importMessage)
+    UI_PROPERTY(QString, importActivity, import_.importActivity)
+    UI_PROPERTY(int, importPercent, import_.importPercent)
 
 public:
     using Action = std::function<void()>;
@@ -100,6 +102,8 @@ public:
     Q_INVOKABLE void checkPermission();
 
     Q_INVOKABLE void openSoundPackImporter() { import_.openSoundPackImporter(); }
+
+    Q_INVOKABLE void cancelImport() { import_.cancel(); }
 
     Q_INVOKABLE bool handleDrop(const QList<QUrl>& urls);
     Q_INVOKABLE void chooseBuiltInPack(int row);

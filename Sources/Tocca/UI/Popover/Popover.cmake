@@ -19,6 +19,7 @@ list(APPEND TOCCA_UI_QML
     Popover/TypingPadSection.qml
     Popover/VisualFlairSection.qml
     Popover/Packs/CommunityLibrary.qml
+    Popover/Packs/ImportProgress.qml
     Popover/Packs/PackDropTarget.qml
     Popover/Packs/SoundPackRow.qml
     Popover/Packs/SoundPackSection.qml)

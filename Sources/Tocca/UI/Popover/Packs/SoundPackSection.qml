@@ -8,7 +8,8 @@ Section {
 
     required property MenuBarViewModel model
 
-    /// An import has ended, and `result`, which says how, has its place; sent again when the new pack's row moves that.
+    /// An import is under way or has ended, and `result`, which says how it goes, has its place; sent again when the new pack's row moves
+    /// that.
     signal imported(result: Item)
 
     title: "STUDIO SOUND PACKS"
@@ -49,6 +50,10 @@ Section {
 
     Connections {
         target: root.model
+        function onImportActivityChanged(): void {
+            if (progress.visible)
+                root.imported(progress);
+        }
         function onImportMessageChanged(): void {
             recently.restart();
             root.imported(message);
@@ -59,6 +64,13 @@ Section {
     }
 
     Timer { id: recently; interval: 500 }
+
+    ImportProgress {
+        id: progress
+        width: root.width
+        model: root.model
+        onYChanged: if (visible) root.imported(progress)
+    }
 
     Label {
         id: message

@@ -21,6 +21,12 @@ constexpr std::size_t kChunk = std::size_t{128} * 1024;
 constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO; // without set-user-ID and the like
 constexpr mode_t kOwnerMay = S_IRUSR | S_IWUSR;
 
+Outcome synced(const FileDescriptor& file, const std::filesystem::path& path)
+{
+    return retried([&] { return ::fsync(file.get()); }) == 0 ? Outcome(std::monostate{})
+                                                             : fileError(path, errno);
+}
+
 /// Copies until the end of `from`; an error names the file in which it arose.
 Outcome copyBytes(const FileDescriptor& from, const std::filesystem::path& fromPath, const FileDescriptor& to,
                   const std::filesystem::path& toPath)
@@ -38,10 +44,7 @@ Outcome copyBytes(const FileDescriptor& from, const std::filesystem::path& fromP
             return fileError(toPath, errno);
         }
     }
-    if (retried([&] { return ::fsync(to.get()); }) != 0) {
-        return fileError(toPath, errno);
-    }
-    return std::monostate{};
+    return synced(to, toPath);
 }
 
 } // namespace
@@ -73,6 +76,21 @@ Outcome copyRegularFile(const std::filesystem::path& from, const std::filesystem
         ::unlink(to.c_str());
     }
     return copied;
+}
+
+Outcome writeNewFile(const std::filesystem::path& to, std::string_view bytes)
+{
+    constexpr mode_t kReadable = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+    const FileDescriptor target(retried(
+        [&] { return ::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, kReadable); }));
+    if (!target.isOpen()) {
+        return fileError(to, errno);
+    }
+    auto written = writeAll(target.get(), bytes) ? synced(target, to) : fileError(to, errno);
+    if (!written) {
+        ::unlink(to.c_str());
+    }
+    return written;
 }
 
 } // namespace tocca::platform::linux

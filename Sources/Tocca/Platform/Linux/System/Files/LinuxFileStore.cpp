@@ -3,8 +3,10 @@
 #include "Platform/Linux/System/FileDescriptor.h"
 #include "Platform/Linux/System/Files/FileCopy.h"
 #include "Platform/Linux/System/Files/FileError.h"
+#include "Platform/Linux/System/Files/LinuxDirectories.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <system_error>
 #include <variant>
@@ -69,13 +71,22 @@ void unprotect(const fs::path& path)
 
 } // namespace
 
+LinuxFileStore::LinuxFileStore()
+{
+    if (const auto data = LinuxDirectories().applicationSupport()) {
+        trash_.emplace(*data / "Trash");
+    }
+}
+
 Result<FileStatus> LinuxFileStore::status(const fs::path& path) const
 {
     struct stat status {};
 
     if (::lstat(path.c_str(), &status) == 0) {
         return FileStatus{.kind = kindOf(status.st_mode),
-                          .identity = {.device = status.st_dev, .number = status.st_ino}};
+                          .identity = {.device = status.st_dev, .number = status.st_ino},
+                          .byteCount =
+                              S_ISREG(status.st_mode) ? static_cast<std::uint64_t>(status.st_size) : 0};
     }
     if (errno == ENOENT || errno == ENOTDIR) {
         return FileStatus{};
@@ -120,6 +131,11 @@ Outcome LinuxFileStore::copyEntry(const fs::path& from, const fs::path& to)
     }
 }
 
+Outcome LinuxFileStore::writeFile(const fs::path& to, std::span<const std::byte> bytes)
+{
+    return writeNewFile(to, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
 Outcome LinuxFileStore::move(const fs::path& from, const fs::path& to)
 {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
@@ -161,6 +177,11 @@ Outcome LinuxFileStore::removeTree(const fs::path& path)
         fs::remove_all(path, error);
     }
     return outcome(path, error);
+}
+
+Outcome LinuxFileStore::moveToTrash(const fs::path& path, const fs::path& original)
+{
+    return trash_ ? trash_->put(path, original) : fileError(path, "there is no trash");
 }
 
 Outcome LinuxFileStore::syncDirectory(const fs::path& directory)
