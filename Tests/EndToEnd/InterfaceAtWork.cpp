@@ -58,7 +58,8 @@ void InterfaceAtWork::keepPicture(const std::string& name) const
 {
     const std::filesystem::path folder = SCREENS_DIRECTORY;
     std::filesystem::create_directories(folder);
-    const auto picture = screen.picture(0, 0, screen.width(), screen.height());
+    const instruments::XScreen now; // which may have another size by now
+    const auto picture = now.picture(0, 0, now.width(), now.height());
     const auto raw = folder / (name + ".ppm");
     {
         std::ofstream file(raw, std::ios::binary);

@@ -56,7 +56,7 @@ private:
 
 } // namespace
 
-/// usage: other_program X Y WIDTH HEIGHT [FOLDER]
+/// usage: other_program X Y WIDTH HEIGHT [FOLDER]; without a width it takes the whole screen
 int main(int argc, char** argv)
 {
     QGuiApplication application(argc, argv);
@@ -65,7 +65,12 @@ int main(int argc, char** argv)
         return 2;
     }
     OtherWindow window(words.value(5));
-    window.setGeometry(words[1].toInt(), words[2].toInt(), words[3].toInt(), words[4].toInt());
-    window.show();
+    const QRect place(words[1].toInt(), words[2].toInt(), words[3].toInt(), words[4].toInt());
+    if (place.isEmpty()) {
+        window.showFullScreen();
+    } else {
+        window.setGeometry(place);
+        window.show();
+    }
     return QGuiApplication::exec();
 }

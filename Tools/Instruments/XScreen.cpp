@@ -1,9 +1,12 @@
 #include "Instruments/XScreen.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string_view>
+#include <xcb/randr.h>
 #include <xcb/xcb.h>
 
 namespace tocca::instruments {
@@ -91,6 +94,38 @@ void XScreen::collect(std::uint32_t window, std::uint32_t process, std::vector<V
                 {child, nameOf(child), place->dst_x, place->dst_y, geometry->width, geometry->height});
         }
     }
+}
+
+VisibleWindow XScreen::mainMonitor() const
+{
+    const auto reply = own(xcb_randr_get_monitors_reply(
+        connection_.get(), xcb_randr_get_monitors(connection_.get(), root_, 1), nullptr));
+    std::optional<VisibleWindow> found;
+    if (reply) {
+        for (auto each = xcb_randr_get_monitors_monitors_iterator(reply.get()); each.rem > 0;
+             xcb_randr_monitor_info_next(&each)) {
+            if (!found || each.data->primary != 0) {
+                found = {0, {}, each.data->x, each.data->y, each.data->width, each.data->height};
+            }
+            if (each.data->primary != 0) {
+                break;
+            }
+        }
+    }
+    return found.value_or(VisibleWindow{});
+}
+
+bool XScreen::isListed(std::uint32_t window) const
+{
+    const auto listed = words(root_, "_NET_CLIENT_LIST");
+    return std::find(listed.begin(), listed.end(), window) != listed.end();
+}
+
+std::uint32_t XScreen::focus() const
+{
+    const auto reply =
+        own(xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
+    return reply ? reply->focus : std::uint32_t{XCB_NONE};
 }
 
 std::string XScreen::activeWindow() const

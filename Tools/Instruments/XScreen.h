@@ -48,14 +48,24 @@ class XScreen {
 public:
     XScreen();
 
+    /// The size that the screen had when this object was made.
     [[nodiscard]] int width() const noexcept { return width_; }
 
     [[nodiscard]] int height() const noexcept { return height_; }
+
+    /// Where the main monitor is now; the first one where none is the main one.
+    [[nodiscard]] VisibleWindow mainMonitor() const;
 
     [[nodiscard]] Picture picture(int x, int y, int width, int height) const;
 
     /// The windows of the program with process `id`, lowest first, wherever a window manager has put them.
     [[nodiscard]] std::vector<VisibleWindow> windowsOf(int process) const;
+
+    /// Whether task bars, pagers and switchers can know of the window, because the window manager lists it.
+    [[nodiscard]] bool isListed(std::uint32_t window) const;
+
+    /// The window that has the keyboard.
+    [[nodiscard]] std::uint32_t focus() const;
 
     /// The name of the window that the window manager calls active; empty when there is none.
     [[nodiscard]] std::string activeWindow() const;

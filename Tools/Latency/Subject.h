@@ -58,7 +58,7 @@ private:
 
     ClickPack pack_;
     player::StrokeTrace trace_;
-    platform::linux::LinuxHost system_;
+    platform::linux::LinuxHost system_{"latency", QByteArray()};
     platform::linux::LinuxStandardOutput standardOutput_;
     player::Mixer mixer_;
     platform::linux::LinuxAudioOutput output_;

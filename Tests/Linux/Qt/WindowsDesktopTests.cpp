@@ -130,13 +130,13 @@ class PopoverDesktop : public WindowsDesktop {
 protected:
     void SetUp() override
     {
-        popover_.resize(360, 560);
+        popover_.setContentSize({360, 560});
         popover_.setContent(content_.view());
     }
 
     void open()
     {
-        popover_.showAt({800, 10, 24, 24});
+        popover_.showAt({800, 10, 24, 24}, std::nullopt);
         ASSERT_TRUE(runUntil([&] { return content_.isShown() && popover_.isActive(); }));
     }
 
@@ -164,18 +164,41 @@ TEST_F(PopoverDesktop, ClosesOnEscapeAndOnAClickElsewhere)
 
     open();
     family_.setDialog(true);
+    EXPECT_FALSE(popover_.isVisible()) << "the folder dialog is to be seen";
+    EXPECT_TRUE(popover_.isOpen());
     clickElsewhere();
-    ASSERT_TRUE(runUntil([&] { return !popover_.isActive(); }));
-    EXPECT_TRUE(popover_.isVisible()) << "the folder dialog has the focus";
     family_.setDialog(false);
-    popover_.hide();
+    EXPECT_TRUE(runUntil([&] { return popover_.isVisible() && popover_.isActive(); }));
+    popover_.dismiss();
+    EXPECT_TRUE(runUntil([&] { return behind.window()->isActive(); })) << "the keyboard goes back";
 
     open();
     clickElsewhere();
     ASSERT_TRUE(runUntil([&] { return !popover_.isVisible(); }));
-    popover_.showAt({800, 10, 24, 24});
+    popover_.showAt({800, 10, 24, 24}, std::nullopt);
     EXPECT_FALSE(popover_.isVisible()) << "the click that took the focus away was meant to close it";
     open();
+}
+
+TEST(PopoverPlace, LeavesPanelsInSight)
+{
+    struct Row {
+        const char* name;
+        QRect panel;
+        QRect expected;
+    };
+
+    const QRect area(0, 0, 1600, 1000);
+    const Row rows[] = {// NOLINT(modernize-avoid-c-arrays)
+                        {"top", {0, 0, 1600, 30}, {0, 30, 1600, 970}},
+                        {"bottom", {0, 956, 1600, 44}, {0, 0, 1600, 956}},
+                        {"left", {0, 0, 60, 1000}, {60, 0, 1540, 1000}},
+                        {"right", {1540, 0, 60, 1000}, {0, 0, 1540, 1000}},
+                        {"another screen's", {1600, 956, 1600, 44}, area}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(besidePanel(area, row.panel), row.expected);
+    }
 }
 
 TEST(PopoverPlace, IsBesideItsAnchorAndInsideTheScreen)

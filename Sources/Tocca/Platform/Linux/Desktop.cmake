@@ -1,9 +1,10 @@
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(TOCCA_XCB REQUIRED IMPORTED_TARGET xcb xcb-res xcb-shape xcb-xfixes xcb-xinput xcb-xkb)
+pkg_check_modules(TOCCA_XCB REQUIRED IMPORTED_TARGET xcb xcb-randr xcb-res xcb-xfixes xcb-xinput xcb-xkb)
 
 # What the X server tells: keys, windows in front, selections; without Qt.
 app_module(tocca_linux_x11
     UNITS
+        Platform/Linux/X11/ButtonWatch
         Platform/Linux/X11/DesktopScale
         Platform/Linux/X11/DesktopWatch
         Platform/Linux/X11/FrontWindow

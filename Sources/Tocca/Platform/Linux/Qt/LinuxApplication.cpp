@@ -86,7 +86,7 @@ void LinuxApplication::setActivationPolicy(ActivationPolicy policy)
 void LinuxApplication::activate()
 {
     for (ContentWindow* const window : surroundings_.windows.all()) {
-        if (window->isVisible()) {
+        if (window->isVisible() && window->kind() == ContentWindow::Kind::ordinary) {
             bringToFront(*window);
         }
     }

@@ -6,6 +6,7 @@
 #include <QMetaObject>
 #include <QObject>
 #include <QRect>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -21,16 +22,32 @@ public:
     [[nodiscard]] Subscription onChange(std::function<void()> handler) override;
 
 private:
+    /// Where the main screen is, as Qt has it.
+    struct Place {
+        QRect geometry;
+        double scale = 0;
+
+        bool operator==(const Place&) const = default;
+    };
+
     void follow();
-    void followMain();
+    void followAll();
+    void changed();
+    void tellIfMoved();
+    [[nodiscard]] static Place mainPlace();
 
     Listeners<> listeners_;
-    std::unique_ptr<QObject> observer_;     // of the application
-    std::unique_ptr<QObject> mainObserver_; // of the display that is the main one now
+    Place told_;
+    std::unique_ptr<QObject> observer_;        // of the application
+    std::unique_ptr<QObject> screensObserver_; // of the displays that there are now
+    std::unique_ptr<QTimer> lookAgain_;
 };
 
 /// A frame of the controllers, whose y runs upwards from the main screen's bottom, in Qt's coordinates, in which that screen is `main`.
 /// Units: points on both sides, rounded to whole ones.
 [[nodiscard]] QRect qtRect(const Rect& frame, const QRect& main);
+
+/// The same frame in pixels of the main screen, which lies at `main`, at `scale` pixels a point. It does not leave that screen.
+[[nodiscard]] QRect pixelRect(const Rect& frame, const QRect& main, double scale);
 
 } // namespace tocca::platform::linux

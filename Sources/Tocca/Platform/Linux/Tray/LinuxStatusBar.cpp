@@ -54,7 +54,7 @@ LinuxStatusItem::LinuxStatusItem(LinuxStatusBar& bar)
         busMenu_ = std::make_unique<DBusMenu>(bus, kMenuPath, [this] { return menu(); });
         notifierItem_ = std::make_unique<StatusNotifierItem>(
             bus, kMenuPath,
-            StatusNotifierItem::Observers{.activated = [this] { click(); },
+            StatusNotifierItem::Observers{.activated = [this](QPoint place) { click(place); },
                                           .menuRequested = [this](QPoint /*place*/) { openMenu(); }});
         notifierWatch_ = std::make_unique<StatusNotifierWatch>(bus, [this] { follow(); });
     }
@@ -98,8 +98,9 @@ bool LinuxStatusItem::isShown() const
     return embedded_ || (notifierWatch_ && notifierWatch_->hasHost());
 }
 
-void LinuxStatusItem::click()
+void LinuxStatusItem::click(const std::optional<QPoint>& place)
 {
+    activationPlace_ = place;
     if (action_) {
         action_();
     }

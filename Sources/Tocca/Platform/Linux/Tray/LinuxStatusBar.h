@@ -8,11 +8,13 @@
 #include "Platform/Linux/Tray/StatusNotifierItem.h"
 #include "Platform/Linux/Tray/StatusNotifierWatch.h"
 
+#include <QPoint>
 #include <QRect>
 #include <QSocketNotifier>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tocca::platform::linux {
 
@@ -61,10 +63,13 @@ public:
     /// Where the icon is on the screen; empty when the desktop does not tell. Units: Qt's points.
     [[nodiscard]] QRect iconPlace() const;
 
+    /// What the desktop said about the place when it last passed a click on; nothing when it did not. Units: pixels.
+    [[nodiscard]] std::optional<QPoint> activationPlace() const { return activationPlace_; }
+
     [[nodiscard]] bool isShown() const;
 
 private:
-    void click();
+    void click(const std::optional<QPoint>& place = std::nullopt);
     void openMenu();
     [[nodiscard]] MenuNode menu();
 
@@ -74,6 +79,7 @@ private:
     LinuxStatusBar& bar_;
     TemplateIcon icon_;
     std::function<void()> action_;
+    std::optional<QPoint> activationPlace_;
     PopupMenu popup_;
     std::unique_ptr<DBusMenu> busMenu_;
     std::unique_ptr<StatusNotifierItem> notifierItem_;

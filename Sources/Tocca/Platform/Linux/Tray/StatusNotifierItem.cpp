@@ -33,14 +33,14 @@ void StatusNotifierItem::setIcon(const QString& name, const StatusPixmaps& pixma
     Q_EMIT NewIcon();
 }
 
-void StatusNotifierItem::Activate(int /*x*/, int /*y*/)
+void StatusNotifierItem::Activate(int x, int y)
 {
-    observers_.activated();
+    observers_.activated({x, y});
 }
 
-void StatusNotifierItem::SecondaryActivate(int /*x*/, int /*y*/)
+void StatusNotifierItem::SecondaryActivate(int x, int y)
 {
-    observers_.activated();
+    observers_.activated({x, y});
 }
 
 void StatusNotifierItem::ContextMenu(int x, int y)

@@ -36,7 +36,7 @@ class StatusNotifierItem : public QObject {
 
 public:
     struct Observers {
-        std::function<void()> activated;
+        std::function<void(QPoint)> activated;     ///< where the desktop says the icon or the pointer is
         std::function<void(QPoint)> menuRequested; ///< by a desktop that does not show the menu itself
     };
 

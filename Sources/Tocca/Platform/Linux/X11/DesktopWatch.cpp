@@ -22,7 +22,7 @@ DesktopWatch::DesktopWatch(XConnection connection, Observers observers)
     , prompts_(connection_.get(), connection_.screen(), questions_, inquiry_,
                {.prompting = std::move(observers.promptChanged),
                 .shellFocused = std::move(observers.shellFocused)})
-    , front_(connection_.root(), questions_, inquiry_,
+    , front_(connection_, questions_, inquiry_,
              [this, tell = std::move(observers.frontChanged)](const std::optional<WindowFacts>& facts) {
                  prompts_.setFront(facts);
                  tell(facts);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Linux/X11/WindowFacts.h"
+#include "Platform/Linux/X11/XConnection.h"
 
 #include <cstdint>
 #include <functional>
@@ -8,7 +9,8 @@
 
 namespace tocca::platform::linux {
 
-/// Follows which window the window manager calls active.
+/// Follows which window the window manager calls active. Windows of this process that no window manager knows, such as a popover with the
+/// keyboard, change nothing: who was in front still is.
 ///
 /// Threads: one at a time. Lifetime: as `WindowInquiry`.
 class FrontWindow {
@@ -16,7 +18,8 @@ public:
     /// Hears of a window of which nothing is known when none is active, and nothing when no window manager tells.
     using Observer = std::function<void(const std::optional<WindowFacts>&)>;
 
-    FrontWindow(xcb_window_t root, XQuestions& questions, const WindowInquiry& inquiry, Observer observer);
+    FrontWindow(const XConnection& connection, XQuestions& questions, const WindowInquiry& inquiry,
+                Observer observer);
     FrontWindow(const FrontWindow&) = delete;
     FrontWindow& operator=(const FrontWindow&) = delete;
 
@@ -29,6 +32,10 @@ public:
 private:
     void found(xcb_window_t window);
 
+    /// Answers unless `window` is such a one of this process, or somebody has looked again.
+    void ask(xcb_window_t window, std::function<void(const WindowFacts&)> answer);
+
+    xcb_connection_t* const connection_;
     const xcb_window_t root_;
     XQuestions& questions_;
     const WindowInquiry& inquiry_;

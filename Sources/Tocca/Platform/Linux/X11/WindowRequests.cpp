@@ -1,8 +1,9 @@
 #include "Platform/Linux/X11/WindowRequests.h"
 
-#include <xcb/shape.h>
+#include <xcb/randr.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace tocca::platform::linux {
@@ -30,20 +31,78 @@ void WindowRequests::setClass(xcb_window_t window, std::string_view instance, st
                         static_cast<std::uint32_t>(text.size()), text.data());
 }
 
-void WindowRequests::makeOverlay(xcb_window_t window)
+std::optional<WindowRequests::Area> WindowRequests::monitorAt(int x, int y)
 {
-    setWords(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {kEveryDesktop});
-    setWords(window, "_NET_WM_STATE", XCB_ATOM_ATOM,
-             {atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
-              atom("_NET_WM_STATE_SKIP_PAGER"), atom("_NET_WM_STATE_ABOVE")});
-    setWords(window, "_COMPTON_SHADOW", XCB_ATOM_CARDINAL, {0});
+    const auto cookie = xcb_randr_get_monitors(connection_, root_, 1);
+    const XReply<xcb_randr_get_monitors_reply_t> reply(
+        xcb_randr_get_monitors_reply(connection_, cookie, nullptr));
+    if (!reply) {
+        return std::nullopt;
+    }
+    for (auto each = xcb_randr_get_monitors_monitors_iterator(reply.get()); each.rem > 0;
+         xcb_randr_monitor_info_next(&each)) {
+        if (each.data->x == x && each.data->y == y) {
+            return Area{each.data->x, each.data->y, each.data->width, each.data->height};
+        }
+    }
+    return std::nullopt;
 }
 
-void WindowRequests::passInputThrough(xcb_window_t window)
+std::optional<WindowRequests::Area> WindowRequests::dockAt(int x, int y)
 {
-    xcb_shape_rectangles(connection_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
-                         window, 0, 0, 0, nullptr);
+    const xcb_atom_t dock = atom("_NET_WM_WINDOW_TYPE_DOCK");
+    const auto column = static_cast<std::int16_t>(x);
+    const auto row = static_cast<std::int16_t>(y);
+    xcb_window_t window = root_;
+    while (window != XCB_NONE) {
+        // Window managers put frames around panels as well.
+        const XReply<xcb_translate_coordinates_reply_t> below(xcb_translate_coordinates_reply(
+            connection_, xcb_translate_coordinates(connection_, root_, window, column, row), nullptr));
+        window = below ? below->child : xcb_window_t{XCB_NONE};
+        if (window == XCB_NONE || !contains(words(window, "_NET_WM_WINDOW_TYPE"), dock)) {
+            continue;
+        }
+        const auto sizeCookie = xcb_get_geometry(connection_, window);
+        const auto placeCookie = xcb_translate_coordinates(connection_, window, root_, 0, 0);
+        const XReply<xcb_get_geometry_reply_t> size(xcb_get_geometry_reply(connection_, sizeCookie, nullptr));
+        const XReply<xcb_translate_coordinates_reply_t> place(
+            xcb_translate_coordinates_reply(connection_, placeCookie, nullptr));
+        if (size && place) {
+            return Area{place->dst_x, place->dst_y, size->width, size->height};
+        }
+    }
+    return std::nullopt;
+}
+
+xcb_window_t WindowRequests::keyboard()
+{
+    const XReply<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+    return focus ? focus->focus : xcb_window_t{XCB_NONE};
+}
+
+void WindowRequests::giveKeyboard(xcb_window_t window)
+{
+    // The refusal is taken here, because Qt would print it.
+    const XReply<xcb_generic_error_t> refusal(
+        xcb_request_check(connection_, xcb_set_input_focus_checked(connection_, XCB_INPUT_FOCUS_POINTER_ROOT,
+                                                                   window, XCB_CURRENT_TIME)));
+}
+
+void WindowRequests::place(xcb_window_t window, const Area& area)
+{
+    const std::array values{static_cast<std::uint32_t>(area.x), static_cast<std::uint32_t>(area.y),
+                            static_cast<std::uint32_t>(area.width), static_cast<std::uint32_t>(area.height)};
+    xcb_configure_window(connection_, window,
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+                             XCB_CONFIG_WINDOW_HEIGHT,
+                         values.data());
     xcb_flush(connection_);
+}
+
+void WindowRequests::makeShadowless(xcb_window_t window)
+{
+    setWords(window, "_COMPTON_SHADOW", XCB_ATOM_CARDINAL, {0});
 }
 
 void WindowRequests::bringToCurrentDesktop(xcb_window_t window)

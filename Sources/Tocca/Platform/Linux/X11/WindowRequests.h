@@ -5,6 +5,7 @@
 #include <xcb/xcb.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,12 +25,31 @@ public:
     /// Names the program that the window belongs to, for the desktop's own records.
     void setClass(xcb_window_t window, std::string_view instance, std::string_view className);
 
-    /// Before it is shown: the window is to be on every desktop, absent from task bar and switcher, and without a shadow.
-    void makeOverlay(xcb_window_t window);
+    /// A part of the screen. Units: pixels.
+    struct Area {
+        int x = 0;
+        int y = 0;
+        int width = 0;
+        int height = 0;
+    };
 
-    /// Lets everything that the pointer does pass through a window that is shown. Asked for before, some window managers overlook it and
-    /// keep what passes through in the frame that they have put around the window.
-    void passInputThrough(xcb_window_t window);
+    /// The monitor whose top left corner is there; nothing when there is none.
+    [[nodiscard]] std::optional<Area> monitorAt(int x, int y);
+
+    /// The desktop's panel at a point; nothing when there is none.
+    [[nodiscard]] std::optional<Area> dockAt(int x, int y);
+
+    /// The window that has the keyboard.
+    [[nodiscard]] xcb_window_t keyboard();
+
+    /// Gives the keyboard to a window, past the window manager. Does nothing where the window cannot have it.
+    void giveKeyboard(xcb_window_t window);
+
+    /// Moves a window that no window manager has a say in.
+    void place(xcb_window_t window, const Area& area);
+
+    /// Before it is shown: the window is to have no shadow.
+    void makeShadowless(xcb_window_t window);
 
     /// Brings a window that is shown, if on another desktop, to the one that the person is on.
     void bringToCurrentDesktop(xcb_window_t window);

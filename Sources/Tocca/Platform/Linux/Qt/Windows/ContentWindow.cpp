@@ -15,14 +15,14 @@ ContentWindow::ContentWindow(OwnWindows& family, Kind kind)
     , kind_(kind)
 {
     setTitle(QStringLiteral("Tocca")); // what assistive programs call a window that shows no title
-    if (kind_ == Kind::ordinary) {
+    if (kind_ != Kind::overlay) {
         family_.add(*this);
     }
 }
 
 ContentWindow::~ContentWindow()
 {
-    if (kind_ == Kind::ordinary) {
+    if (kind_ != Kind::overlay) {
         family_.remove(*this);
     }
     delete item_; // before the view, which it may still refer to

@@ -21,6 +21,7 @@ public:
     /// What kind of window it is to the rest of the program.
     enum class Kind : std::uint8_t {
         ordinary, ///< has the keyboard at times, and is hidden with the program
+        popover,  ///< the same, but never brings the program to the front
         overlay,  ///< never has the keyboard, and is not hidden with the program
     };
 
@@ -39,6 +40,11 @@ public:
         hide();
         return false;
     }
+
+    [[nodiscard]] Kind kind() const noexcept { return kind_; }
+
+    /// A dialog that belongs to one of the program's windows opens or has been closed.
+    virtual void dialogChanged(bool /*isOpen*/) {}
 
     /// Whether a person drags something over the window.
     [[nodiscard]] bool isDraggedOver() const noexcept { return isDraggedOver_; }

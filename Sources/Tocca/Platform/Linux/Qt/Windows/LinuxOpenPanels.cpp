@@ -70,11 +70,6 @@ void LinuxOpenPanels::finish(const std::optional<std::filesystem::path>& directo
         dialog_.release()->deleteLater();
     }
     windows_.setDialog(false);
-    for (ContentWindow* const window : windows_.all()) {
-        if (window->isVisible() && window->type() == Qt::Tool) {
-            bringToFront(*window); // a popover goes away with the focus, so it has to have it
-        }
-    }
     if (const auto completion = std::exchange(pending_, nullptr)) {
         completion(directory);
     }

@@ -3,43 +3,27 @@
 #include "Platform/Linux/Qt/LinuxScreens.h"
 #include "Platform/Linux/Qt/Windows/ContentWindow.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace tocca::platform::linux {
-
-namespace {
-
-class OverlayWindow final : public ContentWindow {
-public:
-    explicit OverlayWindow(OwnWindows& family)
-        : ContentWindow(family, Kind::overlay)
-    {}
-
-private:
-    void exposeEvent(QExposeEvent* event) override
-    {
-        ContentWindow::exposeEvent(event);
-        if (auto desktop = XDesktop::requests(); desktop && isExposed()) {
-            desktop->passInputThrough(static_cast<xcb_window_t>(winId()));
-        }
-    }
-};
-
-} // namespace
 
 class LinuxPanels::LinuxPanel final : public Panel {
 public:
     LinuxPanel(LinuxPanels& owner, WindowLevel level, std::unique_ptr<View> content)
         : owner_(owner)
         , level_(level)
-        , window_(owner.family_)
+        , window_(owner.family_, ContentWindow::Kind::overlay)
         , composition_(owner.desktop_.onChange([this] { update(); }))
     {
-        window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+        // Past the window manager: each has a will of its own about where a managed window lies, what may cover it and when it is hidden.
+        window_.setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
                          Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput |
                          Qt::NoDropShadowWindowHint);
         QSurfaceFormat format = window_.format();
@@ -48,6 +32,24 @@ public:
         window_.setFormat(format);
         window_.setColor(Qt::transparent);
         window_.setContent(std::move(content));
+        // Qt moves windows itself when screens come and go, after it has told of that.
+        placeAgain_.setSingleShot(true);
+        placeAgain_.setInterval(0);
+        QObject::connect(&placeAgain_, &QTimer::timeout, &window_, [this] { place(); });
+        const auto later = [this] { placeAgain_.start(); };
+        QObject::connect(&window_, &QWindow::xChanged, &window_, later);
+        QObject::connect(&window_, &QWindow::yChanged, &window_, later);
+        QObject::connect(&window_, &QWindow::widthChanged, &window_, later);
+        QObject::connect(&window_, &QWindow::heightChanged, &window_, later);
+        QObject::connect(&window_, &QWindow::screenChanged, &window_, later);
+        // What other programs show later may lie above it, as full-screen windows under i3 do.
+        QObject::connect(&window_, &QQuickWindow::afterAnimating, &window_, [this] {
+            constexpr int kSeldom = 250; // milliseconds
+            if (!sinceRaised_.isValid() || sinceRaised_.hasExpired(kSeldom)) {
+                sinceRaised_.start();
+                owner_.restack();
+            }
+        });
         owner_.panels_.push_back(this);
     }
 
@@ -58,9 +60,8 @@ public:
 
     void setFrame(const Rect& frame) override
     {
-        if (const QScreen* const screen = QGuiApplication::primaryScreen()) {
-            window_.setGeometry(qtRect(frame, screen->geometry()));
-        }
+        frame_ = frame;
+        place();
     }
 
     void orderFront() override
@@ -96,17 +97,42 @@ private:
         }
         if (!window_.isVisible()) {
             XDesktop::adopt(window_);
-            // Each time, because a window manager forgets what it knew about a window that was hidden.
-            XDesktop::requests()->makeOverlay(static_cast<xcb_window_t>(window_.winId()));
+            XDesktop::requests()->makeShadowless(static_cast<xcb_window_t>(window_.winId()));
+            place();
             window_.present();
         }
         owner_.restack();
     }
 
+    /// Puts the window where it belongs, to the pixel: where the scale is no whole number Qt's points miss the edge of the screen by one.
+    void place()
+    {
+        const QScreen* const screen = QGuiApplication::primaryScreen();
+        if (screen == nullptr) {
+            return;
+        }
+        const QPoint corner = screen->geometry().topLeft(); // which Qt does not scale
+        auto desktop = XDesktop::requests();
+        const auto monitor = desktop && window_.handle() != nullptr
+                                 ? desktop->monitorAt(corner.x(), corner.y())
+                                 : std::nullopt;
+        if (!monitor) {
+            window_.setGeometry(qtRect(frame_, screen->geometry()));
+            return;
+        }
+        const QRect place = pixelRect(frame_, QRect(monitor->x, monitor->y, monitor->width, monitor->height),
+                                      screen->devicePixelRatio());
+        desktop->place(static_cast<xcb_window_t>(window_.winId()),
+                       {place.x(), place.y(), place.width(), place.height()});
+    }
+
     LinuxPanels& owner_;
     const WindowLevel level_;
+    Rect frame_;
     bool isVisible_ = false;
-    OverlayWindow window_;
+    QTimer placeAgain_;
+    QElapsedTimer sinceRaised_;
+    ContentWindow window_;
     Subscription composition_;
 };
 

@@ -17,10 +17,7 @@ public:
 
     void setContentSize(const Size& size) override
     {
-        const QSize pixels = QSizeF(size.width, size.height).toSize();
-        window_.setMinimumSize(pixels);
-        window_.setMaximumSize(pixels);
-        window_.resize(pixels);
+        window_.setContentSize(QSizeF(size.width, size.height).toSize());
     }
 
     void setBackground(const Colour& background) override
@@ -36,14 +33,15 @@ public:
 
     void show(StatusItem& item) override
     {
-        if (hasContent_ && !window_.isVisible()) {
-            window_.showAt(static_cast<const LinuxStatusItem&>(item).iconPlace());
+        if (hasContent_ && !window_.isOpen()) {
+            const auto& icon = static_cast<const LinuxStatusItem&>(item);
+            window_.showAt(icon.iconPlace(), icon.activationPlace());
         }
     }
 
-    void close() override { window_.hide(); }
+    void close() override { window_.dismiss(); }
 
-    [[nodiscard]] bool isShown() const override { return window_.isVisible(); }
+    [[nodiscard]] bool isShown() const override { return window_.isOpen(); }
 
 private:
     PopoverWindow window_;

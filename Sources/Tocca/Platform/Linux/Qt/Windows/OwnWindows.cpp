@@ -23,6 +23,17 @@ void OwnWindows::remove(ContentWindow& window)
     std::erase(hidden_, &window);
 }
 
+void OwnWindows::setDialog(bool isOpen)
+{
+    if (hasDialog_ == isOpen) {
+        return;
+    }
+    hasDialog_ = isOpen;
+    for (ContentWindow* const window : windows_) {
+        window->dialogChanged(isOpen);
+    }
+}
+
 void OwnWindows::hide()
 {
     for (ContentWindow* const window : windows_) {

@@ -41,7 +41,7 @@ public:
     /// Whether a dialog that belongs to one of the windows is open, which takes the focus without the person having left.
     [[nodiscard]] bool hasDialog() const noexcept { return hasDialog_; }
 
-    void setDialog(bool isOpen) noexcept { hasDialog_ = isOpen; }
+    void setDialog(bool isOpen);
 
     /// Hides every window that is shown; `showAgain` brings those back that were not closed or shown in between.
     void hide();
