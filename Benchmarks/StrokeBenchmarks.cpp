@@ -79,6 +79,8 @@ struct Packs {
                         .directories = memory.directories(),
                         .files = files,
                         .fileStore = memory.fileStore(),
+                        .archives = memory.archives(),
+                        .soundDecoder = memory.soundDecoder(),
                         .random = memory.random(),
                         .standardOutput = memory.standardOutput(),
                         .application = memory.application(),

@@ -233,7 +233,7 @@ TEST_F(MenuDesktop, HidingKeepsThePlaceAndBringsBackOnlyWhatIsStillHidden)
     Content content;
     popover.setContent(content.view());
     popover.resize(100, 100);
-    popover.showAt(QRect(300, 0, 20, 20));
+    popover.showAt(QRect(300, 0, 20, 20), std::nullopt);
     ASSERT_TRUE(runUntil([&] { return content.isShown(); }));
     const QPoint before = field_->window()->framePosition();
     outputOf({"xdotool", "windowmove", "--sync", std::to_string(field_->window()->winId()), "150", "90"});

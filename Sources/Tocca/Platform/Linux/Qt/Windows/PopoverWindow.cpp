@@ -135,11 +135,11 @@ void PopoverWindow::showAt(const QRect& icon, const std::optional<QPoint>& told)
                              (QCursor::pos() - pointerAtClick_).manhattanLength() <= kTremor;
     sinceClickedAway_.invalidate();
     if (!isSameClick) {
-        present(icon.isValid() ? icon : guessedAnchor(told));
+        presentAt(icon.isValid() ? icon : guessedAnchor(told));
     }
 }
 
-void PopoverWindow::present(const QRect& anchor)
+void PopoverWindow::presentAt(const QRect& anchor)
 {
     if (const QScreen* const screen = screenOf(anchor.center())) {
         // Where there are several monitors Qt does not know which part of them the panels leave.

@@ -43,7 +43,7 @@ public:
     [[nodiscard]] bool isOpen() const { return isVisible() || isAside_; }
 
 private:
-    void present(const QRect& anchor);
+    void presentAt(const QRect& anchor);
     void watchButtons();
     void stopWatching();
     void buttonChanged(ButtonWatch::Action action, xcb_window_t over);
@@ -54,6 +54,12 @@ private:
     void dismissByClick();
 
     void closeRequested() override { dismiss(); }
+
+    bool hideWithProgram() override
+    {
+        dismiss();
+        return false;
+    }
 
     bool handleKey(const QKeyEvent& event) override;
     void dragEnded() override;
