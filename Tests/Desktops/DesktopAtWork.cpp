@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <linux/input-event-codes.h>
 #include <stdexcept>
 #include <thread>
 
@@ -60,6 +61,18 @@ void DesktopAtWork::cover(int width, int height)
         return screen.picture(window.x + window.width / 2, window.y + window.height / 2, 1, 1).at(0, 0).red >
                kWhite;
     }));
+}
+
+void DesktopAtWork::closeStudio()
+{
+    constexpr const char* kStudio = "Tocca Studio";
+    ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();
+    ASSERT_TRUE(becomesTrue([&] {
+        if (screen.activeWindow() == kStudio) {
+            chord({KEY_LEFTCTRL, KEY_W});
+        }
+        return screen.activeWindow() != kStudio;
+    })) << program.output();
 }
 
 void DesktopAtWork::strike(std::uint16_t key)

@@ -37,6 +37,9 @@ protected:
     /// Puts a white window of another program in front; without a width it takes the whole screen.
     void cover(int width, int height);
 
+    /// Closes the program's own window, once it is there and has the keyboard.
+    void closeStudio();
+
     void strike(std::uint16_t key);
 
     /// The program's windows of this height.

@@ -92,7 +92,7 @@ protected:
 
 TEST_P(Popover, HangsAtItsIconWithTheKeyboardAndClosesWhereverSomebodyClicks)
 {
-    chord({KEY_LEFTCTRL, KEY_W}); // the Studio window is not what this is about
+    closeStudio();
     cover(900, 700);
     ASSERT_TRUE(becomesTrue([this] { return screen.focus() != 0; }));
     const auto before = screen.activeWindow();
@@ -138,7 +138,7 @@ TEST_P(Popover, TakesAFolderThatIsDraggedToItFromAnotherProgram)
     const auto pack = std::filesystem::path(std::getenv("HOME")) / "Walnut Board";
     std::filesystem::create_directories(pack);
     std::ofstream(pack / "press.ogg") << "no sound, but a pack";
-    chord({KEY_LEFTCTRL, KEY_W});
+    closeStudio();
     other.emplace(std::vector<std::string>{OTHER_PROGRAM, "20", "20", "600", "400", pack.string()});
     ASSERT_TRUE(becomesTrue([this] { return screen.activeWindow() == "Other program"; }));
 
@@ -168,7 +168,7 @@ TEST_P(Popover, TakesAFolderThatIsDraggedToItFromAnotherProgram)
 
 TEST_P(Popover, ShowsTheResultOfAnImportWhenItsDialogIsClosed)
 {
-    chord({KEY_LEFTCTRL, KEY_W});
+    closeStudio();
     cover(900, 700);
     open();
     click("Import");
@@ -180,6 +180,7 @@ TEST_P(Popover, ShowsTheResultOfAnImportWhenItsDialogIsClosed)
         });
     };
     ASSERT_TRUE(becomesTrue(dialog)) << program.output();
+    keepPicture("import-dialog");
     ASSERT_TRUE(becomesTrue([&] {
         for (const VisibleWindow& window : screen.windowsOf(program.id())) {
             if (window.width > kWidth && window.height > 100) {
@@ -198,7 +199,7 @@ TEST_P(Popover, ShowsTheResultOfAnImportWhenItsDialogIsClosed)
 
 TEST_P(Popover, IsNotInFrontOfTheProgramThatKeepsTheSoundOff)
 {
-    chord({KEY_LEFTCTRL, KEY_W});
+    closeStudio();
     XWindow vault({.instance = "keepassxc", .className = "KeePassXC"});
     vault.activate();
     vault.takeFocus();
@@ -212,7 +213,7 @@ TEST_P(Popover, IsNotInFrontOfTheProgramThatKeepsTheSoundOff)
 
 TEST_P(Popover, IsShorterOnASmallScreenAndScrolls)
 {
-    chord({KEY_LEFTCTRL, KEY_W});
+    closeStudio();
     instruments::Monitors monitors(screen.width(), screen.height());
     monitors.useOne(1024, 480);
     const DockPanel low(DockPanel::Edge::bottom, kPanel);
@@ -232,19 +233,20 @@ TEST_P(Popover, IsShorterOnASmallScreenAndScrolls)
     ASSERT_TRUE(reader.find("Spacebar"));
     keepPicture("popover-small");
     const auto place = *popover();
-    ASSERT_TRUE(becomesTrue([&] {
+    const auto isWithinReach = [&] {
         const auto quit = reader.find("Quit", {}, 100ms);
-        if (quit && quit->isFocused) {
-            return quit->y >= place.y && quit->y + quit->height <= place.y + place.height;
-        }
+        return quit && quit->isFocused && quit->y >= place.y &&
+               quit->y + quit->height <= place.y + place.height;
+    };
+    ASSERT_TRUE(becomesTrue([&] {
         chord({KEY_LEFTSHIFT, KEY_TAB}); // the last control is the first backwards
-        return false;
+        return becomesTrue(isWithinReach, 2s);
     })) << "the end of the column is within reach";
 }
 
 TEST_P(Popover, OpensWhereTheTrayIsWhenItIsUsedByKeyboard)
 {
-    chord({KEY_LEFTCTRL, KEY_W});
+    closeStudio();
     cover(900, 700);
     hands.movePointer(450, 350);
     activateIcon(iconX, screen.height() - kPanel + 4);

@@ -21,6 +21,7 @@ Column {
             objectName: "importActivity"
             Accessible.role: Accessible.StaticText
             Accessible.name: text
+            Accessible.ignored: !root.visible
             anchors.left: parent.left
             anchors.right: cancel.left
             anchors.verticalCenter: parent.verticalCenter
@@ -43,6 +44,7 @@ Column {
         objectName: "importBar"
         Accessible.role: Accessible.ProgressBar
         Accessible.name: root.model.importActivity
+        Accessible.ignored: !root.visible
         width: root.width
         height: 4
         radius: 2

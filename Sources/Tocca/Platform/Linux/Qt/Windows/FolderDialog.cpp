@@ -52,6 +52,10 @@ bool FolderDialog::eventFilter(QObject* window, QEvent* event)
         constexpr int kItem = 0; // Popup.Item
         static_cast<QChildEvent*>(event)->child()->setProperty("popupType", kItem);
     }
+    if (event->type() == QEvent::Expose && !hasComeToFront_ && window_->isExposed()) {
+        hasComeToFront_ = true;
+        bringToFront(); // a window manager that had not taken it over yet has not heard the first time
+    }
     return QObject::eventFilter(window, event);
 }
 

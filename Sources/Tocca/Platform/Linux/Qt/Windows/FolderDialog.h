@@ -28,7 +28,7 @@ public:
 
     void bringToFront();
 
-    /// Keeps the dialog inside its window: from 6.8 on Qt would open another one for it.
+    /// Keeps the dialog inside its window, for from 6.8 on Qt would open another one for it, and brings it to the front once it is shown.
     bool eventFilter(QObject* window, QEvent* event) override;
 
 private:
@@ -41,6 +41,7 @@ private:
     Completion completion_;
     QQmlEngine engine_;
     std::unique_ptr<QQuickWindow> window_;
+    bool hasComeToFront_ = false;
 };
 
 } // namespace tocca::platform::linux
