@@ -32,6 +32,24 @@ bool parse(std::string_view text, Number& number)
     return error == std::errc() && end == text.data() + text.size();
 }
 
+/// Takes in an option with its value; false when there is none of that name, or the value makes no sense.
+bool understand(const std::string& option, const std::string& value, Wishes& wishes)
+{
+    if (option == "--pack") {
+        wishes.sound.pack = value;
+        return true;
+    }
+    if (option == "--text") {
+        wishes.text = value;
+        wishes.hasText = true;
+        return true;
+    }
+    if (option == "--seed") {
+        return parse(value, wishes.sound.seed);
+    }
+    return option == "--speed" && parse(value, wishes.wordsPerMinute);
+}
+
 /// Returns false when that makes no sense.
 bool understand(const std::vector<std::string>& arguments, Wishes& wishes)
 {
@@ -42,16 +60,10 @@ bool understand(const std::vector<std::string>& arguments, Wishes& wishes)
             wishes.sound.playsReleases = true;
         } else if (!option.starts_with("--")) {
             wishes.files.push_back(option);
-        } else if (i + 1 == arguments.size()) {
+        } else if (i + 1 == arguments.size() || !understand(option, arguments[i + 1], wishes)) {
             return false;
-        } else if (const std::string& value = arguments[++i]; option == "--pack") {
-            wishes.sound.pack = value;
-        } else if (option == "--text") {
-            wishes.text = value;
-            wishes.hasText = true;
-        } else if (option == "--seed" ? !parse(value, wishes.sound.seed)
-                                      : option != "--speed" || !parse(value, wishes.wordsPerMinute)) {
-            return false;
+        } else {
+            ++i;
         }
     }
     return wishes.files.size() == (wishes.hasText ? 1U : 2U) && wishes.wordsPerMinute > 0 &&

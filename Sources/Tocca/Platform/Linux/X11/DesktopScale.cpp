@@ -3,6 +3,7 @@
 #include "Platform/Linux/X11/XConnection.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -83,7 +84,7 @@ int scaleIn(std::string_view settings)
     }
     const double inText = dpi ? std::max(1.0, *dpi / kUsualDpi) : 1.0;
     const std::uint32_t wanted = std::clamp(scale.value_or(1), 1U, kMostScale);
-    return std::max(1, static_cast<int>(wanted / inText + 0.5));
+    return std::max(1, static_cast<int>(std::lround(wanted / inText)));
 }
 
 int desktopScale()

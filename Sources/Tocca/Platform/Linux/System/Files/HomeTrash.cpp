@@ -74,7 +74,7 @@ Outcome HomeTrash::put(const fs::path& path, const fs::path& original) const
         const std::string name =
             original.filename().string() + (number == 1 ? std::string() : "." + std::to_string(number));
         const fs::path info = folder_ / "info" / (name + ".trashinfo");
-        if (const auto written = writeNewFile(info, note); !written) {
+        if (auto written = writeNewFile(info, note); !written) {
             std::error_code error;
             if (fs::exists(fs::symlink_status(info, error))) {
                 continue;
