@@ -66,12 +66,17 @@ void DesktopAtWork::cover(int width, int height)
 void DesktopAtWork::closeStudio()
 {
     constexpr const char* kStudio = "Tocca Studio";
+    constexpr int kLeast = 400; // its height; overlays are lower
+    const auto isShown = [this] {
+        const Windows all = screen.windowsOf(program.id());
+        return std::any_of(all.begin(), all.end(), [](const auto& window) { return window.height > kLeast; });
+    };
     ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();
     ASSERT_TRUE(becomesTrue([&] {
-        if (screen.activeWindow() == kStudio) {
+        if (isShown()) {
             chord({KEY_LEFTCTRL, KEY_W});
         }
-        return screen.activeWindow() != kStudio;
+        return becomesTrue([&] { return !isShown(); }, 500ms);
     })) << program.output();
 }
 
