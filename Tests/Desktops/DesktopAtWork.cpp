@@ -14,6 +14,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr const char* kOther = "Other program";
+constexpr int kLeastHeight = 400; // of the Studio; overlays are lower
 
 bool isInstalled(const std::string& program)
 {
@@ -66,10 +67,10 @@ void DesktopAtWork::cover(int width, int height)
 void DesktopAtWork::closeStudio()
 {
     constexpr const char* kStudio = "Tocca Studio";
-    constexpr int kLeast = 400; // its height; overlays are lower
     const auto isShown = [this] {
         const Windows all = screen.windowsOf(program.id());
-        return std::any_of(all.begin(), all.end(), [](const auto& window) { return window.height > kLeast; });
+        return std::any_of(all.begin(), all.end(),
+                           [](const auto& window) { return window.height > kLeastHeight; });
     };
     ASSERT_TRUE(becomesTrue([&] { return screen.activeWindow() == kStudio; })) << program.output();
     ASSERT_TRUE(becomesTrue([&] {
