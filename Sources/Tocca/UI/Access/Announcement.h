@@ -2,8 +2,7 @@
 
 #include <QObject>
 #include <QQmlEngine>
-
-class QQuickItem;
+#include <QQuickItem>
 
 namespace tocca::ui {
 
