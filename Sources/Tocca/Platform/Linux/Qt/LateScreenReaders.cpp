@@ -1,5 +1,6 @@
 #include "Platform/Linux/Qt/LateScreenReaders.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 namespace tocca::platform::linux {
