@@ -68,8 +68,13 @@ protected:
 
     void switchHudOn()
     {
-        click("NOTCH HUD: OFF");
-        ASSERT_TRUE(reader.find("NOTCH HUD: ON"));
+        // A window that is still on its way to its place is missed by a click.
+        ASSERT_TRUE(becomesTrue([this] {
+            if (reader.find("NOTCH HUD: OFF", {}, 100ms)) {
+                click("NOTCH HUD: OFF");
+            }
+            return reader.find("NOTCH HUD: ON", {}, 3s).has_value();
+        }));
     }
 
     /// Strikes keys until the HUD is open.
